@@ -1,0 +1,15 @@
+# Warnings and sanitizers as interface targets that every module links.
+
+add_library(plenovia_warnings INTERFACE)
+target_compile_options(plenovia_warnings INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor)
+if(PLENOVIA_WERROR)
+  target_compile_options(plenovia_warnings INTERFACE -Werror)
+endif()
+
+add_library(plenovia_sanitizers INTERFACE)
+if(PLENOVIA_SANITIZE)
+  target_compile_options(plenovia_sanitizers INTERFACE
+    -fsanitize=${PLENOVIA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(plenovia_sanitizers INTERFACE -fsanitize=${PLENOVIA_SANITIZE})
+endif()

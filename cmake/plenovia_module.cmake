@@ -1,0 +1,50 @@
+# plenovia_module(NAME [SHARED] SOURCES ... [HEADERS ...] [LINK ...] [PUBLIC_LINK ...])
+#
+# Makes the library NAME of one room. Includes are written from the project's root. Each header
+# named in HEADERS is also compiled alone, so that it includes what it uses.
+function(plenovia_module name)
+  cmake_parse_arguments(arg "SHARED" "" "SOURCES;HEADERS;LINK;PUBLIC_LINK" ${ARGN})
+  set(kind STATIC)
+  if(arg_SHARED)
+    set(kind SHARED)
+  endif()
+  set(alone)
+  foreach(header IN LISTS arg_HEADERS)
+    set(probe ${CMAKE_CURRENT_BINARY_DIR}/compiles_alone/${header}.cpp)
+    file(RELATIVE_PATH from_root ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/${header})
+    file(CONFIGURE OUTPUT ${probe} CONTENT "#include \"${from_root}\"\n#include \"${from_root}\"\n")
+    list(APPEND alone ${probe})
+  endforeach()
+  add_library(${name} ${kind} ${arg_SOURCES} ${arg_HEADERS} ${alone})
+  target_compile_features(${name} PUBLIC cxx_std_20)
+  set_target_properties(${name} PROPERTIES
+    CXX_EXTENSIONS OFF POSITION_INDEPENDENT_CODE ON)
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name}
+    PUBLIC ${arg_PUBLIC_LINK}
+    PRIVATE ${arg_LINK} plenovia_warnings plenovia_sanitizers)
+endfunction()
+
+# plenovia_executable(NAME SOURCES ... LINK ...)
+function(plenovia_executable name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+  add_executable(${name} ${arg_SOURCES})
+  target_compile_features(${name} PRIVATE cxx_std_20)
+  set_target_properties(${name} PROPERTIES CXX_EXTENSIONS OFF)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE ${arg_LINK} plenovia_warnings plenovia_sanitizers)
+endfunction()
+
+# plenovia_test(NAME SOURCES ... LINK ...)
+#
+# Makes the GoogleTest program NAME of one room and registers it with CTest. It links that room
+# (and what the room's tests share from testing/) only.
+function(plenovia_test name)
+  if(NOT PLENOVIA_TESTS)
+    return()
+  endif()
+  plenovia_executable(${name} ${ARGN})
+  target_link_libraries(${name} PRIVATE plenovia_testing GTest::gtest_main)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+endfunction()

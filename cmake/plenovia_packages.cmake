@@ -1,0 +1,19 @@
+# The libraries that the cores stand on, each as one imported target.
+
+find_package(Threads REQUIRED)
+find_package(GIF REQUIRED)
+find_package(JPEG REQUIRED)
+find_package(PNG REQUIRED)
+find_package(tl-expected CONFIG REQUIRED)
+find_package(CLI11 CONFIG REQUIRED)
+
+find_path(SIMPLEINI_INCLUDE_DIR SimpleIni.h REQUIRED)
+add_library(plenovia_simpleini INTERFACE)
+target_include_directories(plenovia_simpleini SYSTEM INTERFACE ${SIMPLEINI_INCLUDE_DIR})
+
+if(PLENOVIA_TESTS)
+  find_package(GTest REQUIRED)
+endif()
+if(PLENOVIA_BENCH)
+  find_package(benchmark REQUIRED)
+endif()

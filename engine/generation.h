@@ -1,0 +1,56 @@
+// The generation runs: from a depth source, a pattern and the parameters to a stereogram.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "engine/run_monitor.h"
+#include "engine/sirds_settings.h"
+#include "platform/indexed_image.h"
+#include "platform/level_grid.h"
+#include "platform/result.h"
+
+namespace plenovia {
+
+// The figure library's level of a point: column, row (counted from the bottom), centre column,
+// centre row, angle in degrees, figure code (the negative of the figure's position from 1).
+using FigureLevelFunction = std::int32_t (*)(std::int32_t, std::int32_t, std::int32_t,
+                                             std::int32_t, std::int32_t, std::int32_t);
+
+// What every run needs beside its depth source. All of it is borrowed and must outlive the run;
+// the settings are read once, at the start.
+struct RunInput {
+  const IndexedImage& pattern;  // the tile; the result has its colours, widened to 256
+  const TSirdsSettings& settings;
+  RunMonitor& monitor;
+  int threads = 1;  // rows are shared out among so many; the result is the same for any number
+};
+
+// Each run gives the finished stereogram, or an error: kCancelled when the monitor stopped it,
+// kInvalid or kTooLarge when the picture cannot be made (a side below 1, or no memory). In every
+// case the monitor hears the end phase last.
+
+// Depth from a picture by palette index or by brightness. `zoom` scales the result, the source is
+// read at the nearest pixel.
+[[nodiscard]] Result<IndexedImage> MakeSirdFromBitmap(const IndexedImage& source, double zoom,
+                                                      const RunInput& input);
+
+// Depth from a depth map, in the map's size.
+[[nodiscard]] Result<IndexedImage> MakeSirdFromDepthMap(const LevelGrid& map,
+                                                        const RunInput& input);
+
+struct FigureRun {
+  FigureLevelFunction level = nullptr;
+  std::int32_t code = -1;
+  // When given, the figure is shifted into this picture, mapped to the pattern's colours, and the
+  // result has its size; otherwise into pattern tiles of the size that the settings name.
+  const IndexedImage* background = nullptr;
+  // Called on the finished picture before the markers are drawn, when given.
+  std::function<void(IndexedImage&)> caption;
+};
+
+// Depth from a mathematical figure.
+[[nodiscard]] Result<IndexedImage> MakeSirdFromFigure(const FigureRun& figure,
+                                                      const RunInput& input);
+
+}  // namespace plenovia

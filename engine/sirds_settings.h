@@ -1,0 +1,58 @@
+// The one record of parameters that every stereogram is made from.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "platform/profile_file.h"
+
+namespace plenovia {
+
+enum ScanMethod : std::int32_t { kLeftToRight = 1, kMcMahon = 2, kFeucht = 3 };
+enum DepthSelection : std::int32_t { kDepthByColor = 1, kDepthByBrightness = 2 };
+
+// Sizes and displacements are pixels of the stereogram, depths are levels (0 is the far plane).
+struct TSirdsSettings {
+  std::int32_t dx = 0;            // a figure moves right by it, -200..200
+  std::int32_t dy = 0;            // a figure moves up by it, -200..200
+  std::int32_t da = 0;            // a figure turns by it, degrees, -180..180
+  std::int32_t zmax = 63;         // upper end of the depth range, at least zmin
+  std::int32_t zmin = 0;          // lower end; both only scale levels, they do not clamp them
+  std::int32_t w = 400;           // a figure stereogram's width, 2 * gapValue..1200
+  std::int32_t h = 400;           // and height, 1..1200
+  std::int32_t gapValue = 100;    // distance at which the background repeats at depth 0, 51..150
+  std::int32_t depthSel = kDepthByColor;
+  std::int32_t marker = 1;        // 1: two marker squares are drawn
+  std::int32_t useBmp = 0;        // 1: a figure is drawn over the open picture
+  std::int32_t scanMethod = kMcMahon;
+
+  bool operator==(const TSirdsSettings&) const = default;
+};
+
+// The defaults in every field but `useBmp`.
+void RestoreDefaults(TSirdsSettings& settings);
+
+// What the settings dialog holds when it is closed: texts as typed, of which the first 19
+// characters count, and the states of its boxes.
+struct SirdsSettingsEntry {
+  std::string_view dx, dy, da, zmin, zmax, gapValue, w, h;
+  bool depthByColor = true;
+  int scanPosition = 0;  // position in the list of scan methods, from 0
+  bool addMarkers = true;
+  bool useOpenBitmap = false;
+};
+
+// The record that an entry stands for. Nothing is refused: a number out of its range is replaced,
+// and zmin and zmax change places when they are the wrong way round.
+TSirdsSettings Normalise(const SirdsSettingsEntry& entry);
+
+// The same rules on a record of any numbers, such as one from a settings file that was edited by
+// hand. A scan method or depth selection that does not exist becomes the default one.
+TSirdsSettings Settle(TSirdsSettings settings);
+
+// Section "DEMO" of the settings file. What is missing there is the default; the record loaded is
+// settled.
+TSirdsSettings LoadSirdsSettings(const ProfileFile& profile);
+void StoreSirdsSettings(const TSirdsSettings& settings, ProfileFile& profile);
+
+}  // namespace plenovia

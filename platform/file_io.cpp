@@ -1,0 +1,161 @@
+#include "platform/file_io.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/uio.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <new>
+#include <string>
+#include <system_error>
+#include <vector>
+
+namespace plenovia {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+tl::unexpected<Error> SystemFailure(const std::string& what) {
+  return Failure(ErrorCode::kIo, what + ": " + std::strerror(errno));
+}
+
+// A file descriptor that closes itself.
+class Descriptor {
+ public:
+  explicit Descriptor(int value) : value_(value) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() {
+    if (value_ >= 0) close(value_);
+  }
+  int get() const { return value_; }
+  bool Close() {
+    const int value = std::exchange(value_, -1);
+    return close(value) == 0;
+  }
+
+ private:
+  int value_;
+};
+
+// Removes the temporary file unless it was renamed.
+class Leftover {
+ public:
+  explicit Leftover(std::string path) : path_(std::move(path)) {}
+  Leftover(const Leftover&) = delete;
+  Leftover& operator=(const Leftover&) = delete;
+  ~Leftover() {
+    if (!path_.empty()) unlink(path_.c_str());
+  }
+  void Keep() { path_.clear(); }
+
+ private:
+  std::string path_;
+};
+
+bool WriteAll(int descriptor, std::span<const std::span<const std::uint8_t>> pieces) {
+  constexpr std::size_t kPiecesAtOnce = 512;
+  std::array<iovec, kPiecesAtOnce> parts{};
+  std::size_t piece = 0;
+  std::size_t done = 0;  // bytes of pieces[piece] that are written
+  while (piece < pieces.size()) {
+    const std::size_t count = std::min(kPiecesAtOnce, pieces.size() - piece);
+    for (std::size_t i = 0; i < count; ++i) {
+      const auto rest = pieces[piece + i].subspan(i == 0 ? done : 0);
+      parts[i] = {const_cast<std::uint8_t*>(rest.data()), rest.size()};
+    }
+    const ssize_t written = writev(descriptor, parts.data(), static_cast<int>(count));
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return false;
+    done += static_cast<std::size_t>(written);
+    while (piece < pieces.size() && done >= pieces[piece].size()) {
+      done -= pieces[piece].size();
+      ++piece;
+    }
+  }
+  return true;
+}
+
+// The place that a chain of symbolic links ends at.
+fs::path FollowLinks(fs::path path) {
+  for (int links = 0; links < 40; ++links) {
+    std::error_code error;
+    const fs::path target = fs::read_symlink(path, error);
+    if (error) return path;
+    path = target.is_absolute() ? target : path.parent_path() / target;
+  }
+  return path;
+}
+
+}  // namespace
+
+Result<ByteBuffer> ReadFile(const fs::path& path, std::size_t most) {
+  const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  if (file.get() < 0) return SystemFailure("cannot be opened");
+  struct stat status {};
+  if (fstat(file.get(), &status) != 0) return SystemFailure("cannot be read");
+  if (S_ISDIR(status.st_mode)) return Failure(ErrorCode::kIo, "is a directory");
+  if (!S_ISREG(status.st_mode)) return Failure(ErrorCode::kIo, "is not a regular file");
+  const auto size = static_cast<std::size_t>(status.st_size);
+  if (size > most) return Failure(ErrorCode::kTooLarge, "the file is too large");
+
+  ByteBuffer bytes;
+  try {
+    bytes.resize(size);
+  } catch (const std::bad_alloc&) {
+    return Failure(ErrorCode::kTooLarge, "there is not enough memory to read the file");
+  }
+  std::size_t done = 0;
+  while (done < size) {
+    const ssize_t got = read(file.get(), bytes.data() + done, size - done);
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) return SystemFailure("cannot be read");
+    if (got == 0) break;
+    done += static_cast<std::size_t>(got);
+  }
+  bytes.resize(done);
+  return bytes;
+}
+
+Result<void> WriteFile(const fs::path& path,
+                       std::span<const std::span<const std::uint8_t>> pieces) {
+  const fs::path target = FollowLinks(path);
+  struct stat old {};
+  const bool replaces = stat(target.c_str(), &old) == 0;
+  if (replaces && S_ISDIR(old.st_mode)) return Failure(ErrorCode::kIo, "is a directory");
+  if (replaces && !S_ISREG(old.st_mode)) return Failure(ErrorCode::kIo, "is not a regular file");
+  if (replaces && access(target.c_str(), W_OK) != 0) return SystemFailure("cannot be written");
+
+  std::string name = (target.parent_path() / (".plenovia-XXXXXX")).string();
+  Descriptor file(mkostemp(name.data(), O_CLOEXEC));
+  if (file.get() < 0) return SystemFailure("cannot be written");
+  Leftover leftover(name);
+
+  mode_t mode = 0666;
+  if (replaces) {
+    mode = old.st_mode & 07777;
+  } else {
+    const mode_t mask = umask(0);
+    umask(mask);
+    mode &= ~mask;
+  }
+  if (!WriteAll(file.get(), pieces)) return SystemFailure("cannot be written");
+  if (fchmod(file.get(), mode) != 0) return SystemFailure("cannot be written");
+  // Without this a power failure soon after the renaming could lose the old file and the new one.
+  if (replaces && fdatasync(file.get()) != 0) return SystemFailure("cannot be written");
+  if (!file.Close()) return SystemFailure("cannot be written");
+  if (rename(name.c_str(), target.c_str()) != 0) return SystemFailure("cannot be written");
+  leftover.Keep();
+  return {};
+}
+
+Result<void> WriteFile(const fs::path& path, std::span<const std::uint8_t> bytes) {
+  return WriteFile(path, std::span<const std::span<const std::uint8_t>>(&bytes, 1));
+}
+
+}  // namespace plenovia
