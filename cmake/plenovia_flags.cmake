@@ -13,3 +13,7 @@ if(PLENOVIA_SANITIZE)
     -fsanitize=${PLENOVIA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(plenovia_sanitizers INTERFACE -fsanitize=${PLENOVIA_SANITIZE})
 endif()
+
+# A program loads only the libraries that it calls: the command line starts without the settings
+# file's.
+add_link_options(-Wl,--as-needed)

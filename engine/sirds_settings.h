@@ -13,17 +13,17 @@ enum DepthSelection : std::int32_t { kDepthByColor = 1, kDepthByBrightness = 2 }
 
 // Sizes and displacements are pixels of the stereogram, depths are levels (0 is the far plane).
 struct TSirdsSettings {
-  std::int32_t dx = 0;            // a figure moves right by it, -200..200
-  std::int32_t dy = 0;            // a figure moves up by it, -200..200
-  std::int32_t da = 0;            // a figure turns by it, degrees, -180..180
-  std::int32_t zmax = 63;         // upper end of the depth range, at least zmin
-  std::int32_t zmin = 0;          // lower end; both only scale levels, they do not clamp them
-  std::int32_t w = 400;           // a figure stereogram's width, 2 * gapValue..1200
-  std::int32_t h = 400;           // and height, 1..1200
-  std::int32_t gapValue = 100;    // distance at which the background repeats at depth 0, 51..150
+  std::int32_t dx = 0;          // a figure moves right by it, -200..200
+  std::int32_t dy = 0;          // a figure moves up by it, -200..200
+  std::int32_t da = 0;          // a figure turns by it, degrees, -180..180
+  std::int32_t zmax = 63;       // upper end of the depth range, at least zmin
+  std::int32_t zmin = 0;        // lower end; both only scale levels, they do not clamp them
+  std::int32_t w = 400;         // a figure stereogram's width, 2 * gapValue..1200
+  std::int32_t h = 400;         // and height, 1..1200
+  std::int32_t gapValue = 100;  // distance at which the background repeats at depth 0, 51..150
   std::int32_t depthSel = kDepthByColor;
-  std::int32_t marker = 1;        // 1: two marker squares are drawn
-  std::int32_t useBmp = 0;        // 1: a figure is drawn over the open picture
+  std::int32_t marker = 1;  // 1: two marker squares are drawn
+  std::int32_t useBmp = 0;  // 1: a figure is drawn over the open picture
   std::int32_t scanMethod = kMcMahon;
 
   bool operator==(const TSirdsSettings&) const = default;

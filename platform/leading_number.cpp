@@ -18,9 +18,8 @@ std::int32_t LeadingNumber(std::string_view text) {
     value = std::min(kLimit, value * 10 + (c - '0'));
   }
   if (negative) value = -value;
-  return static_cast<std::int32_t>(
-      std::clamp<std::int64_t>(value, std::numeric_limits<std::int32_t>::min(),
-                               std::numeric_limits<std::int32_t>::max()));
+  return static_cast<std::int32_t>(std::clamp<std::int64_t>(
+      value, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()));
 }
 
 }  // namespace plenovia

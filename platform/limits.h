@@ -8,7 +8,7 @@
 
 namespace plenovia {
 
-inline constexpr int kMaxSide = 32767;                      // pixels
+inline constexpr int kMaxSide = 32767;  // pixels
 inline constexpr std::int64_t kMaxPixels = std::int64_t{1} << 29;
 inline constexpr std::size_t kMaxFileBytes = std::size_t{1} << 30;
 

@@ -23,6 +23,8 @@ void* Allocate(std::size_t bytes) {
   return memory;
 }
 
-void Release(void* memory) noexcept { std::free(memory); }
+void Release(void* memory) noexcept {
+  std::free(memory);
+}
 
 }  // namespace plenovia::pixel_buffer_detail

@@ -33,8 +33,8 @@ Result<ProfileFile> ProfileFile::Load(const std::filesystem::path& path) {
   if (!std::filesystem::exists(path, error)) return profile;
   const auto bytes = ReadFile(path, kMostBytes);
   if (!bytes) return tl::unexpected(bytes.error());
-  const SI_Error status = profile.contents_->ini.LoadData(
-      reinterpret_cast<const char*>(bytes->data()), bytes->size());
+  const SI_Error status =
+      profile.contents_->ini.LoadData(reinterpret_cast<const char*>(bytes->data()), bytes->size());
   if (status < 0) return Failure(ErrorCode::kCorrupt, "the settings file cannot be understood");
   return profile;
 }
@@ -44,7 +44,8 @@ Result<void> ProfileFile::Save(const std::filesystem::path& path) const {
   if (contents_->ini.Save(text) < 0) {
     return Failure(ErrorCode::kTooLarge, "there is not enough memory to write the settings");
   }
-  return WriteFile(path, std::span(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()));
+  return WriteFile(path,
+                   std::span(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()));
 }
 
 std::int32_t ProfileFile::GetInt(const std::string& section, const std::string& key,

@@ -50,8 +50,8 @@ testing::AssertionResult SameColours(const IndexedImage& expected, const Indexed
   return Compare(expected, actual, [&](int want, int got) -> std::string {
     const Rgb a = expected.palette()[want];
     const Rgb b = actual.palette()[got];
-    const int off = std::max({std::abs(a.red - b.red), std::abs(a.green - b.green),
-                              std::abs(a.blue - b.blue)});
+    const int off =
+        std::max({std::abs(a.red - b.red), std::abs(a.green - b.green), std::abs(a.blue - b.blue)});
     return off <= tolerance ? "" : Describe(b) + " instead of " + Describe(a);
   });
 }
