@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/indexed_image.h"
-#include "testing/random.h"
+#include "platform/random.h"
 
 namespace plenovia {
 
