@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "engine/depth_source.h"
 #include "engine/run_monitor.h"
 #include "engine/sirds_settings.h"
 #include "platform/indexed_image.h"
@@ -11,11 +12,6 @@
 #include "platform/result.h"
 
 namespace plenovia {
-
-// The figure library's level of a point: column, row (counted from the bottom), centre column,
-// centre row, angle in degrees, figure code (the negative of the figure's position from 1).
-using FigureLevelFunction = std::int32_t (*)(std::int32_t, std::int32_t, std::int32_t, std::int32_t,
-                                             std::int32_t, std::int32_t);
 
 // What every run needs beside its depth source. All of it is borrowed and must outlive the run;
 // the settings are read once, at the start.

@@ -1,0 +1,191 @@
+#include "engine/generation.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <memory>
+#include <new>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "engine/bands.h"
+#include "engine/markers.h"
+#include "engine/prepared_shift.h"
+#include "engine/tiling.h"
+#include "platform/limits.h"
+
+namespace plenovia {
+
+namespace {
+
+// The picture that is being generated.
+struct Canvas {
+  int runWidth = 0;    // columns generated
+  int finalWidth = 0;  // columns kept, the leftmost ones
+  int height = 0;
+  std::int32_t gap = 0;                      // that the rows are shifted with
+  const IndexedImage* background = nullptr;  // in the palette of the result; none: pattern tiles
+};
+
+// Fills and shifts the rows of one canvas, one at a time, with buffers of its own.
+class RowShifter {
+ public:
+  RowShifter(const Canvas& canvas, const DepthSource& source, const RunInput& input,
+             const PreparedShift& shift, IndexedImage& result)
+      : canvas_(canvas),
+        source_(source),
+        pattern_(input.pattern),
+        shift_(shift),
+        result_(result),
+        origin_(TileOrigin(input.settings.scanMethod, canvas.runWidth, input.pattern.width())),
+        row_(shift.MakeRow()) {}
+
+  void Run(int scanLine) {
+    const auto row = row_.pixels();
+    const int y = canvas_.height - 1 - scanLine;
+    if (canvas_.background != nullptr) {
+      std::copy_n(canvas_.background->Row(y).begin(), row.size(), row.begin());
+    } else {
+      TilePatternRow(row, pattern_, origin_, y);
+    }
+    if (source_.BuildByteRow(scanLine, row_.byteLevels())) {
+      shift_.ShiftBytes(row_);
+    } else {
+      source_.BuildRow(scanLine, row_.levels());
+      shift_.Shift(row_);
+    }
+    const auto kept = result_.Row(y);
+    std::copy_n(row.begin(), kept.size(), kept.begin());
+  }
+
+ private:
+  const Canvas& canvas_;
+  const DepthSource& source_;
+  const IndexedImage& pattern_;
+  const PreparedShift& shift_;
+  IndexedImage& result_;
+  int origin_;
+  ShiftBuffers row_;
+};
+
+// Generates the canvas. The result's pixels are complete but for caption and markers.
+Result<IndexedImage> ShiftRows(const Canvas& canvas, const DepthSource& source,
+                               const RunInput& input) {
+  auto result =
+      IndexedImage::Create(canvas.finalWidth, canvas.height, input.pattern.palette().Widened());
+  if (!result) return result;
+  const PreparedShift shift(canvas.runWidth, canvas.gap, source.kind(), input.settings);
+  const bool finished = RunBands(
+      canvas.runWidth, canvas.height, input.threads,
+      [&]() -> RowWorker {
+        auto rows = std::make_shared<RowShifter>(canvas, source, input, shift, *result);
+        return [rows](int scanLine) { rows->Run(scanLine); };
+      },
+      input.monitor);
+  if (!finished) return Failure(ErrorCode::kCancelled, "stopped");
+  return result;
+}
+
+// Brackets a run: the first messages when it is made, the last one when it goes.
+class Bracket {
+ public:
+  Bracket(RunMonitor& monitor, std::string startText) : monitor_(monitor) {
+    monitor_.OnProgress(ProgressPhase::kStart, {std::move(startText), 0, 0});
+    monitor_.OnProgress(ProgressPhase::kFirstStep, {"Generating Dots", 0, 100});
+  }
+  Bracket(const Bracket&) = delete;
+  Bracket& operator=(const Bracket&) = delete;
+  ~Bracket() { monitor_.OnProgress(ProgressPhase::kEnd, {}); }
+
+ private:
+  RunMonitor& monitor_;
+};
+
+// Generates the canvas and finishes it. `caption` may be empty.
+Result<IndexedImage> Generate(const Canvas& canvas, const DepthSource& source,
+                              const RunInput& input,
+                              const std::function<void(IndexedImage&)>& caption = {}) {
+  if (input.pattern.empty()) return Failure(ErrorCode::kInvalid, "there is no pattern");
+  try {
+    auto result = ShiftRows(canvas, source, input);
+    if (!result) return result;
+    if (caption) caption(*result);
+    if (input.settings.marker != 0) DrawMarkers(*result, input.settings.gapValue);
+    return result;
+  } catch (const std::bad_alloc&) {
+    return Failure(ErrorCode::kTooLarge, "there is not enough memory for the stereogram");
+  }
+}
+
+// `picture` with each pixel at the palette's nearest colour.
+Result<IndexedImage> MapToPalette(const IndexedImage& picture, const Palette& palette) {
+  auto mapped = IndexedImage::Create(picture.width(), picture.height(), palette);
+  if (!mapped) return mapped;
+  std::array<std::uint8_t, 256> nearest{};
+  for (int i = 0; i < 256; ++i) {
+    nearest[static_cast<std::size_t>(i)] = palette.Nearest(picture.palette()[i]);
+  }
+  std::transform(picture.pixels().begin(), picture.pixels().end(), mapped->pixels().begin(),
+                 [&](std::uint8_t index) { return nearest[index]; });
+  return mapped;
+}
+
+}  // namespace
+
+Result<IndexedImage> MakeSirdFromBitmap(const IndexedImage& source, double zoom,
+                                        const RunInput& input) {
+  const TSirdsSettings& settings = input.settings;
+  const Bracket bracket(input.monitor, "");
+  const double scaledWidth = std::trunc(source.width() * zoom);
+  const double scaledHeight = std::trunc(source.height() * zoom);
+  const double gap = settings.gapValue * zoom;
+  if (!(scaledWidth + std::abs(gap) < 1e6 && scaledHeight < 1e6)) {
+    return Failure(ErrorCode::kTooLarge, "the stereogram is too large");
+  }
+  Canvas canvas;
+  canvas.gap = static_cast<std::int32_t>(gap);
+  canvas.height = static_cast<int>(scaledHeight);
+  const bool widens = WidensByGap(settings.scanMethod);
+  canvas.runWidth = static_cast<int>(scaledWidth + (widens ? gap : 0));
+  canvas.finalWidth = canvas.runWidth - (widens ? settings.gapValue : 0);
+  const int start = StartColumn(settings.scanMethod, canvas.gap);
+  return Generate(canvas, PictureDepth(source, zoom, start, settings.depthSel), input);
+}
+
+Result<IndexedImage> MakeSirdFromDepthMap(const LevelGrid& map, const RunInput& input) {
+  const TSirdsSettings& settings = input.settings;
+  const Bracket bracket(input.monitor, "");
+  if (auto fits = CheckPictureSize(map.GridWidth(), map.GridHeight()); !fits) {
+    return tl::unexpected(fits.error());
+  }
+  Canvas canvas;
+  canvas.gap = settings.gapValue;
+  canvas.height = map.GridHeight();
+  canvas.finalWidth = map.GridWidth();
+  canvas.runWidth = canvas.finalWidth + (WidensByGap(settings.scanMethod) ? canvas.gap : 0);
+  return Generate(canvas, MapDepth(map, StartColumn(settings.scanMethod, canvas.gap)), input);
+}
+
+Result<IndexedImage> MakeSirdFromFigure(const FigureRun& figure, const RunInput& input) {
+  const TSirdsSettings& settings = input.settings;
+  const Bracket bracket(input.monitor, "Generating Dots");
+  Canvas canvas;
+  canvas.gap = settings.gapValue;
+  canvas.finalWidth = settings.w;
+  canvas.height = settings.h;
+  std::optional<IndexedImage> background;
+  if (figure.background != nullptr && !figure.background->empty()) {
+    auto mapped = MapToPalette(*figure.background, input.pattern.palette().Widened());
+    if (!mapped) return mapped;
+    background = std::move(*mapped);
+    canvas.finalWidth = background->width();
+    canvas.height = background->height();
+    canvas.background = &*background;
+  }
+  canvas.runWidth = canvas.finalWidth;
+  const FigureDepth depth(figure.level, figure.code, canvas.finalWidth, canvas.height, settings);
+  return Generate(canvas, depth, input, figure.caption);
+}
+
+}  // namespace plenovia
