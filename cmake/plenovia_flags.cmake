@@ -3,6 +3,10 @@
 add_library(plenovia_warnings INTERFACE)
 target_compile_options(plenovia_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # GCC 12 sees overlapping copies inside std::string where there are none (GCC bug 105651).
+  target_compile_options(plenovia_warnings INTERFACE -Wno-restrict)
+endif()
 if(PLENOVIA_WERROR)
   target_compile_options(plenovia_warnings INTERFACE -Werror)
 endif()

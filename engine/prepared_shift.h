@@ -1,4 +1,5 @@
-// The scan methods made ready for many rows of one width: no division is left for each pixel.
+// The scan methods made ready for many rows of one width: no division is left for each pixel, and
+// stretches of equal depth are copied in blocks.
 #pragma once
 
 #include <cstddef>
@@ -6,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "engine/distance_runs.h"
 #include "engine/scan_methods.h"
 #include "platform/pixel_buffer.h"
 
@@ -28,7 +30,8 @@ class ShiftBuffers {
   std::size_t width_ = 0;
   ByteBuffer pixels_;
   ByteBuffer bytes_;
-  std::vector<std::int32_t, PixelAllocator<std::int32_t>> levels_;
+  std::vector<std::int32_t> levels_;
+  std::vector<DistanceRun> runs_;
 };
 
 // Gives exactly what ShiftRow gives. Const calls may run on several threads at once, each with
@@ -49,6 +52,8 @@ class PreparedShift {
   std::int32_t gap_;
   SourceKind kind_;
   TSirdsSettings settings_;
+  // By level: the distance from a column to its partner, or for Feucht's method the separation.
+  DistanceTable distances_{};
 };
 
 }  // namespace plenovia

@@ -2,48 +2,46 @@
 
 #include <cstddef>
 
+#include "engine/scan_rules.h"
+
 namespace plenovia {
 
 namespace {
-
-using Wide = std::int64_t;  // holds every product of 32-bit levels and sizes
 
 // The row as the rules see it: signed columns.
 struct Line {
   std::span<std::uint8_t> row;
   std::span<const std::int32_t> depth;
-  Wide width() const { return static_cast<Wide>(row.size()); }
-  std::uint8_t& operator[](Wide x) const { return row[static_cast<std::size_t>(x)]; }
-  Wide Level(Wide x) const { return depth[static_cast<std::size_t>(x)]; }
+  std::int64_t width() const { return static_cast<std::int64_t>(row.size()); }
+  std::uint8_t& operator[](std::int64_t x) const { return row[static_cast<std::size_t>(x)]; }
+  std::int64_t Level(std::int64_t x) const { return depth[static_cast<std::size_t>(x)]; }
 };
 
-void ShiftLeftToRight(const Line& line, Wide gap, Wide k, Wide range) {
-  for (Wide x = gap < 0 ? 0 : gap; x < line.width(); ++x) {
-    const Wide shift = line.Level(x) * k / range;
-    const Wide source = x - (gap - shift);
+void ShiftLeftToRight(const Line& line, const ScanRules& rules) {
+  for (std::int64_t x = rules.gap < 0 ? 0 : rules.gap; x < line.width(); ++x) {
+    const std::int64_t source = x + rules.LeftToRightDistance(line.Level(x));
     if (source >= 0 && source < line.width()) line[x] = line[source];
   }
 }
 
-void ShiftMcMahon(const Line& line, Wide gap, Wide zmin, Wide range) {
-  const Wide middle = line.width() / 2;
-  const Wide half = gap / 2;
-  const auto partner = [&](Wide x) { return (x - gap) + (line.Level(x) - zmin) * half / range; };
+void ShiftMcMahon(const Line& line, const ScanRules& rules) {
+  const std::int64_t middle = line.width() / 2;
+  const auto partner = [&](std::int64_t x) { return x + rules.McMahonDistance(line.Level(x)); };
 
-  Wide limit = line.width();
-  Wide last = 0;
-  for (Wide x = middle - 1; x >= 0; --x) {
-    const Wide target = partner(x);
+  std::int64_t limit = line.width();
+  std::int64_t last = 0;
+  for (std::int64_t x = middle - 1; x >= 0; --x) {
+    const std::int64_t target = partner(x);
     if (target < 0 || target >= limit) continue;
     line[target] = line[x];
     limit = target;
-    for (Wide i = target + 1; i < last; ++i) line[i] = line[i - 1];
+    for (std::int64_t i = target + 1; i < last; ++i) line[i] = line[i - 1];
     last = target;
   }
 
-  Wide previous = 0;
-  for (Wide x = middle; x < line.width(); ++x) {
-    const Wide source = partner(x);
+  std::int64_t previous = 0;
+  for (std::int64_t x = middle; x < line.width(); ++x) {
+    const std::int64_t source = partner(x);
     if (source < 0) continue;
     if (source > previous && source < line.width()) {
       line[x] = line[source];
@@ -54,40 +52,33 @@ void ShiftMcMahon(const Line& line, Wide gap, Wide zmin, Wide range) {
   }
 }
 
-void ShiftFeucht(const Line& line, Wide levelScale, Wide zmin, Wide range) {
-  const Wide middle = line.width() / 2;
-  const Wide a = 2 * range + zmin;
-  const Wide b = 4 * range + zmin;
-  const Wide c = 5 * line.width() / 20;
-  const auto separation = [&](Wide x) {
-    const Wide d = line.Level(x) * levelScale;
-    return d == b ? 0 : (a - d) * c / (b - d);
-  };
+void ShiftFeucht(const Line& line, const ScanRules& rules) {
+  const std::int64_t middle = line.width() / 2;
 
-  Wide limit = line.width();
-  Wide last = 0;
-  for (Wide x = middle - 1; x >= 0; --x) {
-    const Wide s = separation(x);
-    const Wide left = x - (s >> 1);
-    const Wide right = left + s;
+  std::int64_t limit = line.width();
+  std::int64_t last = 0;
+  for (std::int64_t x = middle - 1; x >= 0; --x) {
+    const std::int64_t s = rules.FeuchtSeparation(line.Level(x));
+    const std::int64_t left = x - (s >> 1);
+    const std::int64_t right = left + s;
     if (left < 0 || right < 0 || right >= line.width() || right >= limit) continue;
     line[left] = line[right];
     limit = right;
-    for (Wide i = left + 1; i < last; ++i) line[i] = line[right];
+    for (std::int64_t i = left + 1; i < last; ++i) line[i] = line[right];
     last = left;
   }
 
-  Wide previous = 0;
-  Wide fill = line.width();
-  for (Wide x = middle; x < line.width(); ++x) {
-    const Wide s = separation(x);
-    const Wide left = x - (s >> 1);
-    const Wide right = left + s;
+  std::int64_t previous = 0;
+  std::int64_t fill = line.width();
+  for (std::int64_t x = middle; x < line.width(); ++x) {
+    const std::int64_t s = rules.FeuchtSeparation(line.Level(x));
+    const std::int64_t left = x - (s >> 1);
+    const std::int64_t right = left + s;
     const bool inside = left >= 0 && left < line.width() && right >= 0 && right < line.width();
     if (!inside || left <= previous) continue;
     line[right] = line[left];
     previous = left;
-    for (Wide i = fill + 1; i < right; ++i) line[i] = line[left];
+    for (std::int64_t i = fill + 1; i < right; ++i) line[i] = line[left];
     fill = right;
   }
 }
@@ -98,18 +89,16 @@ void ShiftRow(std::span<std::uint8_t> row, std::span<const std::int32_t> depth, 
               SourceKind kind, const TSirdsSettings& settings) {
   if (row.size() < 2 || depth.size() < row.size()) return;
   const Line line{row, depth};
-  const Wide difference = Wide{settings.zmax} - settings.zmin;
-  const Wide range = difference == 0 ? 1 : difference;
-  const bool image = kind == SourceKind::kImage;
+  const ScanRules rules(line.width(), gap, kind, settings);
   switch (settings.scanMethod) {
     case kLeftToRight:
-      ShiftLeftToRight(line, gap, image ? 256 : 64, range);
+      ShiftLeftToRight(line, rules);
       break;
     case kMcMahon:
-      ShiftMcMahon(line, gap, settings.zmin, range);
+      ShiftMcMahon(line, rules);
       break;
     case kFeucht:
-      ShiftFeucht(line, image ? 1 : 4, settings.zmin, range);
+      ShiftFeucht(line, rules);
       break;
     default:
       break;
