@@ -9,10 +9,24 @@ namespace plenovia {
 
 namespace {
 
-// Calls the pass for the parts of the runs that lie in begin..end-1, from left to right. The last
-// of `runs` only ends the one before it.
+// What a pass works through: the columns of one row.
+struct Columns {
+  const std::uint8_t* levels;
+  const DistanceTable& distances;
+  std::span<const DistanceRun> runs;  // the last one only ends the one before it
+  bool rough;                         // so many runs that single columns are faster
+
+  std::int32_t Distance(int x) const { return distances[levels[x]]; }
+};
+
+// Lets the pass work on columns begin..end-1 from left to right.
 template <class Pass>
-void Ascending(std::span<const DistanceRun> runs, int begin, int end, Pass pass) {
+void Ascending(const Columns& columns, int begin, int end, Pass pass) {
+  if (columns.rough) {
+    for (int x = begin; x < end; ++x) pass.Step(x, columns.Distance(x));
+    return;
+  }
+  const auto runs = columns.runs;
   for (std::size_t i = 0; i + 1 < runs.size(); ++i) {
     const int from = std::max(begin, runs[i].start);
     const int to = std::min(end, runs[i + 1].start);
@@ -22,7 +36,12 @@ void Ascending(std::span<const DistanceRun> runs, int begin, int end, Pass pass)
 
 // From right to left.
 template <class Pass>
-void Descending(std::span<const DistanceRun> runs, int begin, int end, Pass pass) {
+void Descending(const Columns& columns, int begin, int end, Pass pass) {
+  if (columns.rough) {
+    for (int x = end - 1; x >= begin; --x) pass.Step(x, columns.Distance(x));
+    return;
+  }
+  const auto runs = columns.runs;
   for (std::size_t i = runs.size() - 1; i-- > 0;) {
     const int from = std::max(begin, runs[i].start);
     const int to = std::min(end, runs[i + 1].start);
@@ -70,20 +89,24 @@ ShiftBuffers PreparedShift::MakeRow() const {
 void PreparedShift::ShiftBytes(ShiftBuffers& row) const {
   if (width_ < 2) return;
   const std::size_t count = FindDistanceRuns(row.byteLevels(), distances_, row.runs_);
-  const std::span<const DistanceRun> runs(row.runs_.data(), count + 1);
+  constexpr std::size_t kShortRun = 4;  // columns, on average
+  const Columns columns{row.byteLevels().data(),
+                        distances_,
+                        {row.runs_.data(), count + 1},
+                        count * kShortRun > row.width_};
   std::uint8_t* const pixels = row.pixels().data();
   const int middle = width_ / 2;
   switch (settings_.scanMethod) {
     case kLeftToRight:
-      Ascending(runs, std::max(0, gap_), width_, LeftToRightPass{pixels, width_});
+      Ascending(columns, std::max(0, gap_), width_, LeftToRightPass{pixels, width_});
       break;
     case kMcMahon:
-      Descending(runs, 0, middle, McMahonLeftPass(pixels, width_));
-      Ascending(runs, middle, width_, McMahonRightPass{pixels, width_});
+      Descending(columns, 0, middle, McMahonLeftPass(pixels, width_));
+      Ascending(columns, middle, width_, McMahonRightPass{pixels, width_});
       break;
     case kFeucht:
-      Descending(runs, 0, middle, FeuchtLeftPass(pixels, width_));
-      Ascending(runs, middle, width_, FeuchtRightPass(pixels, width_));
+      Descending(columns, 0, middle, FeuchtLeftPass(pixels, width_));
+      Ascending(columns, middle, width_, FeuchtRightPass(pixels, width_));
       break;
     default:
       break;
