@@ -1,0 +1,120 @@
+// One shape of a depth map: the points it covers and the level it gives them.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "depthmap/link_obj.h"
+#include "depthmap/little_endian.h"
+#include "platform/pixel_buffer.h"
+#include "platform/region.h"
+
+namespace plenovia {
+
+// A file may hold other values; such an object covers nothing.
+enum DepthObjKind : std::int32_t {
+  TextObj = 0,   // covers its whole rectangle
+  LineObj = 1,   // a sliver one pixel wide from (x1, y1) to (x2, y2), Region::Line
+  CurveObj = 2,  // drawn as half an ellipse, covers its whole rectangle
+  SquareBoxObj = 3,
+  RoundBoxObj = 4,  // the corners are quarter circles, a quarter of the shorter side across
+  PolygonObj = 5,   // filled by the even-odd rule; covers nothing below 3 vertices
+  CircleObj = 6,    // the ellipse in the rectangle
+};
+
+// Two opposite corners in map pixels, in any order: where a drag began and where it ended. The
+// greater column and row of the two are excluded from what the rectangle covers.
+struct DepthRect {
+  std::int32_t x1 = 0;
+  std::int32_t y1 = 0;
+  std::int32_t x2 = 0;
+  std::int32_t y2 = 0;
+  bool operator==(const DepthRect&) const = default;
+
+  PixelRect Normalised() const;
+};
+
+struct DepthPoint {
+  std::int32_t x = 0;
+  std::int32_t y = 0;
+  bool operator==(const DepthPoint&) const = default;
+};
+
+struct DepthSize {
+  std::int64_t width = 0;
+  std::int64_t height = 0;
+  bool operator==(const DepthSize&) const = default;
+};
+
+// Shows depth objects, and repaints the places where they changed.
+class DepthObjOwner {
+ public:
+  virtual ~DepthObjOwner() = default;
+  // Repaint at once `area` and what `region`, when there is one, covers.
+  virtual void Repaint(const Region* region, const PixelRect& area) = 0;
+};
+
+// Coordinates and levels are any 32-bit numbers. The region is kept from its first use until the
+// geometry changes; objects are therefore used from one thread.
+class TDepthObj : public TLinkObj {
+ public:
+  static constexpr std::size_t kMaxVertices = 64;  // of a finished polygon
+
+  // `owner` is borrowed and may be absent: then nothing is repainted.
+  TDepthObj(DepthObjOwner* owner, const DepthRect& rect, DepthObjKind kind, std::int32_t level);
+
+  void SetOwner(DepthObjOwner* owner) { owner_ = owner; }
+  DepthObjKind GetKind() const { return kind_; }
+  std::int32_t GetLevel() const { return level_; }
+  void SetLevel(std::int32_t level) { level_ = level; }
+
+  // The corners as given; of a polygon the box around its vertices. SetRect keeps a region that was
+  // built before: it is meant for objects without one, or to be followed by DropRegion.
+  const DepthRect& GetRect() const { return rect_; }
+  void SetRect(const DepthRect& rect) { rect_ = rect; }
+  DepthSize GetSize() const;
+  std::span<const DepthPoint> GetPoints() const { return points_; }
+
+  // The points covered, or null when the object has none. Valid until the geometry changes.
+  const Region* GetRegion() const;
+  void DropRegion();
+  bool ContainsPoint(std::int32_t x, std::int32_t y) const;
+
+  // Sets the rectangle to the region's bounds. A polygon without a region gets an empty rectangle
+  // at its first vertex.
+  void UpdateBounds();
+
+  // A polygon moves by the way of the first corner, any other object takes the rectangle as it is.
+  // Vertices stop at the ends of the 32-bit numbers.
+  void MoveTo(const DepthRect& rect);
+
+  // For polygons; other kinds ignore both. AddPoint has no limit, SetPoints keeps the first
+  // kMaxVertices.
+  void AddPoint(const DepthPoint& point);
+  void SetPoints(std::span<const DepthPoint> points);
+
+  // Has the owner repaint the region, and the rectangle with room around it for marks and label.
+  void Invalidate();
+
+  // One record of a depth-map file: kind, level, then the vertices of a polygon or else the
+  // rectangle. ReadFrom is false when the bytes end early or a polygon's vertex count is below 0:
+  // vertices keep what was read, other fields that were not read keep what they had.
+  void WriteTo(ByteBuffer& out) const;
+  [[nodiscard]] bool ReadFrom(Int32Reader& in);
+
+ private:
+  std::optional<Region> BuildRegion() const;
+  bool ReadPoints(Int32Reader& in);
+
+  DepthRect rect_;
+  mutable std::optional<Region> region_;
+  DepthObjKind kind_;
+  std::int32_t level_;
+  std::vector<DepthPoint> points_;
+  DepthObjOwner* owner_;
+};
+
+}  // namespace plenovia
