@@ -17,6 +17,10 @@ if(PLENOVIA_SANITIZE)
     -fsanitize=${PLENOVIA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(plenovia_sanitizers INTERFACE -fsanitize=${PLENOVIA_SANITIZE})
 endif()
+if(PLENOVIA_FUZZ)
+  # The fuzzer looks for inputs that reach new code of the modules, so these must count it.
+  target_compile_options(plenovia_sanitizers INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # A program loads only the libraries that it calls: the command line starts without the settings
 # file's.

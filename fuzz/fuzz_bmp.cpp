@@ -1,0 +1,7 @@
+#include "codec/bmp.h"
+#include "fuzz/picture_round_trip.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  plenovia::CheckPictureRoundTrip(plenovia::DecodeBmp, plenovia::EncodeBmp, {data, size});
+  return 0;
+}
