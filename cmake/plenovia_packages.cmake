@@ -17,6 +17,3 @@ set_target_properties(plenovia_simpleini PROPERTIES
 if(PLENOVIA_TESTS)
   find_package(GTest REQUIRED)
 endif()
-if(PLENOVIA_BENCH)
-  find_package(benchmark REQUIRED)
-endif()

@@ -1,0 +1,40 @@
+#!/usr/bin/env bash
+# What ./test.sh leaves out: the format, a build with Clang, the tests under the sanitizers, and
+# every fuzz target for some seconds. Installs what it needs.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+need_packages "${build_packages[@]}" "${test_packages[@]}" "${check_packages[@]}"
+seconds=${FUZZ_SECONDS:-10}
+
+echo "== format"
+git ls-files '*.cpp' '*.h' | xargs clang-format-14 --dry-run --Werror
+
+echo "== Clang"
+cmake --preset clang -DPLENOVIA_WERROR=ON
+cmake --build --preset clang
+
+echo "== clang-tidy"
+git ls-files '*.cpp' | grep -vE '/tests/|^bench/|^fuzz/' |
+  xargs -P "$(nproc)" -n 4 clang-tidy-14 -p build/clang --quiet 2>/dev/null
+
+echo "== sanitizers"
+cmake --preset asan
+cmake --build --preset asan
+ctest --preset asan
+
+echo "== fuzz targets, $seconds seconds each"
+cmake --preset fuzz
+cmake --build --preset fuzz
+for target in build/fuzz/fuzz/fuzz_*; do
+  [ -x "$target" ] && [ -f "$target" ] || continue
+  name=${target##*/fuzz_}
+  found=$(mktemp -d)
+  echo "-- $name"
+  "$target" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=1024 -print_final_stats=1 \
+    -artifact_prefix="$found/" "$found" "fuzz/corpus/$name" 2>"$found.log" ||
+    { tail -n 40 "$found.log"; exit 1; }
+  grep -E 'number_of_executed_units' "$found.log"
+  rm -r "$found" "$found.log"
+done
+echo "All checks passed."

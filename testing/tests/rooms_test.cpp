@@ -1,0 +1,66 @@
+// Every include keeps to the table of rooms: a room uses itself, the rooms below it and no others.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+#include <string>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// The folder that a file belongs to, and what its files may include beside their own room.
+const std::map<std::string, std::set<std::string>> kRooms = {
+    {"platform", {}},
+    {"figures", {}},
+    {"codec", {"platform"}},
+    {"depthmap", {"platform"}},
+    {"images", {"codec", "depthmap", "platform"}},
+    {"engine", {"platform"}},
+    {"cli", {"codec", "depthmap", "engine", "figures", "images", "platform"}},
+    {"sirdspat", {"codec", "platform"}},
+    {"samples", {"codec", "depthmap", "platform"}},
+    {"bench", {"codec", "depthmap", "engine", "figures", "images", "platform"}},
+    {"fuzz", {"codec", "depthmap", "engine", "platform"}},
+    {"testing", {"codec", "depthmap", "engine", "figures", "images", "platform"}},
+};
+
+std::string Room(const fs::path& relative) {
+  return relative.begin()->string();
+}
+
+TEST(Rooms, IncludesPointDownwardsOnly) {
+  const fs::path root = PLENOVIA_SOURCE_DIR;
+  const std::regex include(R"re(^\s*#\s*include\s+([<"])([^>"]+)[>"])re");
+  int files = 0;
+  for (const auto& [room, below] : kRooms) {
+    for (const auto& entry : fs::recursive_directory_iterator(root / room)) {
+      const std::string extension = entry.path().extension().string();
+      if (extension != ".h" && extension != ".cpp") continue;
+      ++files;
+      const fs::path file = fs::relative(entry.path(), root);
+      const bool test = file.string().find("/tests/") != std::string::npos;
+      std::ifstream text(entry.path());
+      std::smatch match;
+      for (std::string line; std::getline(text, line);) {
+        if (!std::regex_search(line, match, include)) continue;
+        const std::string name = match[2];
+        EXPECT_FALSE(name.starts_with("Q") || name.starts_with("qt"))
+            << file << " includes the user interface's " << name;
+        if (match[1] != "\"") continue;
+        const std::string used = Room(name);
+        EXPECT_TRUE(fs::exists(root / name))
+            << file << " includes " << name << ", which is not written from the project's root";
+        EXPECT_TRUE(used == room || below.contains(used) || (test && used == "testing"))
+            << file << " includes " << name;
+      }
+    }
+  }
+  EXPECT_GT(files, 50);
+}
+
+}  // namespace
