@@ -16,22 +16,25 @@ bool PcxLineReader::Read(std::span<std::uint8_t> line) {
     at_ += line.size();
     return true;
   }
-  std::size_t done = 0;
-  while (true) {
-    const std::size_t taken = std::min(left_, line.size() - done);
-    std::fill_n(line.begin() + static_cast<std::ptrdiff_t>(done), taken, value_);
-    done += taken;
-    left_ -= taken;
-    if (done == line.size()) return true;
-
+  for (std::size_t done = 0; done < line.size();) {
+    if (left_ > 0) {
+      const std::size_t taken = std::min(left_, line.size() - done);
+      std::fill_n(line.begin() + static_cast<std::ptrdiff_t>(done), taken, value_);
+      done += taken;
+      left_ -= taken;
+      continue;
+    }
     if (at_ == encoded_.size()) return false;
-    value_ = encoded_[at_++];
-    left_ = 1;
-    if (value_ < kRunMark) continue;
+    const std::uint8_t byte = encoded_[at_++];
+    if (byte < kRunMark) {
+      line[done++] = byte;
+      continue;
+    }
     if (at_ == encoded_.size()) return false;
-    left_ = value_ & kLongestRun;
+    left_ = byte & kLongestRun;
     value_ = encoded_[at_++];
   }
+  return true;
 }
 
 std::size_t EncodePcxLine(std::span<const std::uint8_t> line, std::uint8_t* encoded) {
@@ -41,9 +44,9 @@ std::size_t EncodePcxLine(std::span<const std::uint8_t> line, std::uint8_t* enco
     const std::size_t end = std::min(line.size(), at + kLongestRun);
     std::size_t next = at + 1;
     while (next < end && line[next] == value) ++next;
-    if (next - at > 1 || value >= kRunMark) {
-      *out++ = static_cast<std::uint8_t>(kRunMark | (next - at));
-    }
+    // Written always and kept at need: among random dots a jump would be guessed wrong too often.
+    *out = static_cast<std::uint8_t>(kRunMark | (next - at));
+    out += next - at > 1 || value >= kRunMark ? 1 : 0;
     *out++ = value;
     at = next;
   }
