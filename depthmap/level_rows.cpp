@@ -14,10 +14,12 @@ namespace {
 constexpr std::int64_t kFirstRow = std::numeric_limits<std::int32_t>::min();
 constexpr std::int64_t kLastRow = std::numeric_limits<std::int32_t>::max();
 
-// A span of the object at a place in the stack, 0 at the top.
+// The columns left..right-1 of the object at a place in the stack, which is 0 at the top.
 struct Piece {
-  Span span;
+  std::int32_t left = 0;
+  std::int32_t right = 0;
   std::uint32_t place = 0;
+  std::int32_t level = 0;
 };
 
 struct LiesDeeper {
@@ -46,7 +48,7 @@ void LevelRows::MakeIndex(const TDepthObj* head) {
     reaches.push_back({static_cast<std::int32_t>(std::max(box.top, kFirstRow)),
                        static_cast<std::int32_t>(std::min(box.bottom - 1, kLastRow)),
                        static_cast<std::uint32_t>(objects_.size())});
-    objects_.push_back(object);
+    objects_.push_back({object, region});
   }
   index_ = RowIndex(reaches);
   made_ = true;
@@ -54,29 +56,40 @@ void LevelRows::MakeIndex(const TDepthObj* head) {
 
 void LevelRows::Sample(const TDepthObj* head, int y, std::span<std::int32_t> levels) {
   MakeIndex(head);
-  const auto width = static_cast<std::int64_t>(levels.size());
+  const auto width = static_cast<std::int32_t>(levels.size());
   std::vector<Piece> pieces;
+  RowSpans spans;
   index_.ForEachAt(y, [&](std::uint32_t place) {
-    for (const Span& span : objects_[place]->GetRegion()->Spans(y)) {
-      if (span.left < width && span.right > 0) pieces.push_back({span, place});
+    const auto& [object, region] = objects_[place];
+    region->Spans(y, spans);
+    for (const Span& span : spans) {
+      if (span.left >= width || span.right <= 0) continue;
+      pieces.push_back({static_cast<std::int32_t>(std::max<std::int64_t>(span.left, 0)),
+                        static_cast<std::int32_t>(std::min<std::int64_t>(span.right, width)), place,
+                        object->GetLevel()});
     }
   });
   std::sort(pieces.begin(), pieces.end(),
-            [](const Piece& a, const Piece& b) { return a.span.left < b.span.left; });
+            [](const Piece& a, const Piece& b) { return a.left < b.left; });
 
   // From left to right: of the pieces that have begun and not ended, the topmost one shows up to
-  // its end or to where the next one begins.
+  // its end or to where one begins that lies higher.
   std::priority_queue<Piece, std::vector<Piece>, LiesDeeper> begun;
   auto next = pieces.begin();
-  for (std::int64_t x = 0; x < width;) {
-    for (; next != pieces.end() && next->span.left <= x; ++next) begun.push(*next);
-    while (!begun.empty() && begun.top().span.right <= x) begun.pop();
-    std::int64_t end = next == pieces.end() ? width : std::min(width, next->span.left);
+  for (std::int32_t x = 0; x < width;) {
+    for (; next != pieces.end() && next->left <= x; ++next) begun.push(*next);
+    while (!begun.empty() && begun.top().right <= x) begun.pop();
+    std::int32_t end = width;
     std::int32_t level = 0;
     if (!begun.empty()) {
-      end = std::min(end, begun.top().span.right);
-      level = objects_[begun.top().place]->GetLevel();
+      const Piece shown = begun.top();
+      end = shown.right;
+      level = shown.level;
+      for (; next != pieces.end() && next->left < end && next->place > shown.place; ++next) {
+        if (next->right > end) begun.push(*next);
+      }
     }
+    if (next != pieces.end()) end = std::min(end, next->left);
     std::fill(levels.begin() + x, levels.begin() + end, level);
     x = end;
   }

@@ -25,10 +25,15 @@ class LevelRows {
  private:
   void MakeIndex(const TDepthObj* head);
 
+  struct Entry {
+    const TDepthObj* object = nullptr;
+    const Region* region = nullptr;
+  };
+
   std::mutex making_;
   bool made_ = false;
-  std::vector<const TDepthObj*> objects_;  // topmost first
-  RowIndex index_;                         // of positions in objects_
+  std::vector<Entry> objects_;  // topmost first
+  RowIndex index_;              // of positions in objects_
 };
 
 }  // namespace plenovia

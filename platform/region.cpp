@@ -8,20 +8,16 @@ namespace plenovia {
 
 namespace {
 
-RowSpans OneSpan(const Span& span) {
-  RowSpans spans;
+void AddSpan(RowSpans& spans, const Span& span) {
   AppendSpan(spans, span.left, span.right);
-  return spans;
 }
 
 // Fills from every other crossing to the next one.
-RowSpans EvenOddSpans(std::span<std::int64_t> crossings) {
+void AddEvenOddSpans(RowSpans& spans, std::span<std::int64_t> crossings) {
   std::sort(crossings.begin(), crossings.end());
-  RowSpans spans;
   for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) {
     AppendSpan(spans, crossings[i], crossings[i + 1]);
   }
-  return spans;
 }
 
 PixelRect BoundsOf(std::span<const PixelPoint> vertices) {
@@ -79,8 +75,15 @@ bool Region::Contains(std::int64_t x, std::int64_t y) const {
 }
 
 RowSpans Region::Spans(std::int64_t y) const {
-  if (y < bounds_.top || y >= bounds_.bottom) return {};
-  return std::visit([&](const auto& shape) { return ShapeSpans(shape, y); }, shape_);
+  RowSpans spans;
+  Spans(y, spans);
+  return spans;
+}
+
+void Region::Spans(std::int64_t y, RowSpans& spans) const {
+  spans.clear();
+  if (y < bounds_.top || y >= bounds_.bottom) return;
+  std::visit([&](const auto& shape) { AddSpans(shape, y, spans); }, shape_);
 }
 
 RowSpans Region::FrameSpans(std::int64_t y) const {
@@ -91,19 +94,19 @@ RowSpans Region::FrameSpans(std::int64_t y) const {
   return DifferenceOf(row, inner);
 }
 
-RowSpans Region::ShapeSpans(const RectangleShape&, std::int64_t) const {
-  return OneSpan({bounds_.left, bounds_.right});
+void Region::AddSpans(const RectangleShape&, std::int64_t, RowSpans& spans) const {
+  AddSpan(spans, {bounds_.left, bounds_.right});
 }
 
-RowSpans Region::ShapeSpans(const EllipseShape&, std::int64_t y) const {
-  return OneSpan(EllipseRow(bounds_, y));
+void Region::AddSpans(const EllipseShape&, std::int64_t y, RowSpans& spans) const {
+  AddSpan(spans, EllipseRow(bounds_, y));
 }
 
-RowSpans Region::ShapeSpans(const RoundRectangleShape& shape, std::int64_t y) const {
-  return OneSpan(RoundRectangleRow(bounds_, shape.cornerWidth, shape.cornerHeight, y));
+void Region::AddSpans(const RoundRectangleShape& shape, std::int64_t y, RowSpans& spans) const {
+  AddSpan(spans, RoundRectangleRow(bounds_, shape.cornerWidth, shape.cornerHeight, y));
 }
 
-RowSpans Region::ShapeSpans(const LineShape& shape, std::int64_t y) const {
+void Region::AddSpans(const LineShape& shape, std::int64_t y, RowSpans& spans) const {
   const auto& [a, b] = shape;
   const std::array<PixelPoint, 4> corners{a, {a.x + 1, a.y + 1}, b, {b.x + 1, b.y + 1}};
   std::array<std::int64_t, 4> crossings{};
@@ -113,16 +116,19 @@ RowSpans Region::ShapeSpans(const LineShape& shape, std::int64_t y) const {
     const PixelPoint& to = corners[(i + 1) % corners.size()];
     if (EdgeCrossesRow(from, to, y)) crossings[count++] = EdgeColumn(from, to, y);
   }
-  return UnionOf(EvenOddSpans(std::span(crossings).first(count)), OneSpan(LineRow(a, b, y)));
+  RowSpans drawn;
+  AddSpan(drawn, LineRow(a, b, y));
+  AddEvenOddSpans(spans, std::span(crossings).first(count));
+  spans = UnionOf(spans, drawn);
 }
 
-RowSpans Region::ShapeSpans(const PolygonShape& shape, std::int64_t y) const {
+void Region::AddSpans(const PolygonShape& shape, std::int64_t y, RowSpans& spans) const {
   const std::vector<PixelPoint>& vertices = shape->vertices;
   std::vector<std::int64_t> crossings;
   shape->edges.ForEachAt(y, [&](std::uint32_t i) {
     crossings.push_back(EdgeColumn(vertices[i], vertices[(i + 1) % vertices.size()], y));
   });
-  return EvenOddSpans(crossings);
+  AddEvenOddSpans(spans, crossings);
 }
 
 }  // namespace plenovia

@@ -40,8 +40,10 @@ class Region {
   // pixels need where the shape is too thin to hold a pixel's centre.
   const PixelRect& Bounds() const { return bounds_; }
 
-  // The columns covered in row `y`.
+  // The columns covered in row `y`; the second form replaces what `spans` held, so that many rows
+  // can be had without a new vector each.
   RowSpans Spans(std::int64_t y) const;
+  void Spans(std::int64_t y, RowSpans& spans) const;
 
   // The columns of row `y` that have a neighbour to the left, right, above or below outside the
   // region: a frame one pixel wide.
@@ -68,11 +70,11 @@ class Region {
 
   Region(const PixelRect& bounds, Shape shape) : bounds_(bounds), shape_(std::move(shape)) {}
 
-  RowSpans ShapeSpans(const RectangleShape& shape, std::int64_t y) const;
-  RowSpans ShapeSpans(const EllipseShape& shape, std::int64_t y) const;
-  RowSpans ShapeSpans(const RoundRectangleShape& shape, std::int64_t y) const;
-  RowSpans ShapeSpans(const LineShape& shape, std::int64_t y) const;
-  RowSpans ShapeSpans(const PolygonShape& shape, std::int64_t y) const;
+  void AddSpans(const RectangleShape& shape, std::int64_t y, RowSpans& spans) const;
+  void AddSpans(const EllipseShape& shape, std::int64_t y, RowSpans& spans) const;
+  void AddSpans(const RoundRectangleShape& shape, std::int64_t y, RowSpans& spans) const;
+  void AddSpans(const LineShape& shape, std::int64_t y, RowSpans& spans) const;
+  void AddSpans(const PolygonShape& shape, std::int64_t y, RowSpans& spans) const;
 
   PixelRect bounds_;
   Shape shape_;

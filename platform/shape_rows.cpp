@@ -12,8 +12,12 @@ __extension__ using Int128 = __int128;  // products of two coordinates and a fac
 
 // Quotients that fit 64 bits, of a divisor above 0.
 std::int64_t FloorDivide(Int128 value, Int128 divisor) {
-  const Int128 quotient = value / divisor;
-  return static_cast<std::int64_t>(value % divisor < 0 ? quotient - 1 : quotient);
+  const auto narrowValue = static_cast<std::int64_t>(value);
+  const auto narrowDivisor = static_cast<std::int64_t>(divisor);
+  if (narrowValue == value && narrowDivisor == divisor) {  // nearly always, and much faster
+    return narrowValue / narrowDivisor - (narrowValue % narrowDivisor < 0 ? 1 : 0);
+  }
+  return static_cast<std::int64_t>(value / divisor) - (value % divisor < 0 ? 1 : 0);
 }
 std::int64_t CeilDivide(Int128 value, Int128 divisor) {
   return -FloorDivide(-value, divisor);
