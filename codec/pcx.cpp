@@ -77,7 +77,7 @@ Result<IndexedImage> DecodeIndexed(const PcxHeader& header, Bytes bytes) {
 
 Result<IndexedImage> DecodeTrueColour(const PcxHeader& header, Bytes bytes) {
   const auto width = static_cast<std::size_t>(header.width);
-  const int largest = (1 << header.bits) - 1;
+  const int step = 255 / ((1 << header.bits) - 1);  // between two levels of 2, 4 or 8 bits
   std::array<std::vector<std::uint8_t>, 3> parts;
   parts.fill(std::vector<std::uint8_t>(width));
   PlaneRows rows(header, bytes);
@@ -87,7 +87,7 @@ Result<IndexedImage> DecodeTrueColour(const PcxHeader& header, Bytes bytes) {
     for (int plane = 0; plane < 3; ++plane) {
       auto& values = parts[static_cast<std::size_t>(plane)];
       rows.Unpack(plane, values);
-      for (auto& value : values) value = static_cast<std::uint8_t>(value * 255 / largest);
+      for (auto& value : values) value = static_cast<std::uint8_t>(value * step);
     }
     for (std::size_t x = 0; x < width; ++x) colours[x] = {parts[0][x], parts[1][x], parts[2][x]};
     return true;
