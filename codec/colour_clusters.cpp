@@ -112,18 +112,23 @@ struct Neighbour {
   std::uint8_t centre;
 };
 
-// For each centre all others, the nearest first.
+// For each centre all others, of which the first kSorted are the nearest ones in order.
+constexpr std::size_t kSorted = 24;
+
 std::vector<std::vector<Neighbour>> Neighbours(const std::vector<Colour>& centres) {
   std::vector<std::vector<Neighbour>> all(centres.size());
   for (std::size_t i = 0; i < centres.size(); ++i) {
+    all[i].reserve(centres.size());
     for (std::size_t j = 0; j < centres.size(); ++j) {
       if (j == i) continue;
       all[i].push_back({SquaredDistance(centres[i], centres[j]), static_cast<std::uint8_t>(j)});
     }
-    std::sort(all[i].begin(), all[i].end(), [](const Neighbour& a, const Neighbour& b) {
-      return a.squaredDistance != b.squaredDistance ? a.squaredDistance < b.squaredDistance
-                                                    : a.centre < b.centre;
-    });
+    const auto sorted = all[i].begin() + std::min(std::ssize(all[i]), std::ptrdiff_t{kSorted});
+    std::partial_sort(
+        all[i].begin(), sorted, all[i].end(), [](const Neighbour& a, const Neighbour& b) {
+          return a.squaredDistance != b.squaredDistance ? a.squaredDistance < b.squaredDistance
+                                                        : a.centre < b.centre;
+        });
   }
   return all;
 }
@@ -137,8 +142,12 @@ std::size_t Assign(std::span<const WeightedColour> colours, ColourClusters& clus
     const float start = SquaredDistance(colours[i].colour, clusters.centres[old]);
     std::uint8_t best = old;
     float smallest = start;
-    for (const Neighbour& neighbour : neighbours[old]) {
-      if (neighbour.squaredDistance >= 4 * start) break;
+    for (std::size_t k = 0; k < neighbours[old].size(); ++k) {
+      const Neighbour& neighbour = neighbours[old][k];
+      if (neighbour.squaredDistance >= 4 * start) {
+        if (k < kSorted) break;
+        continue;
+      }
       const float distance = SquaredDistance(colours[i].colour, clusters.centres[neighbour.centre]);
       if (distance < smallest) {
         smallest = distance;

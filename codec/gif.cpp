@@ -1,0 +1,200 @@
+#include "codec/gif.h"
+
+#include <gif_lib.h>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <new>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "codec/byte_stream.h"
+#include "codec/gif_lzw.h"
+#include "platform/limits.h"
+
+namespace plenovia {
+
+namespace {
+
+// A frame that is kept apart from its picture shares this many pixels with it.
+constexpr std::size_t kMostPixelsInTwo = static_cast<std::size_t>(kMaxPixels) / 2 * 3;
+
+struct CloseReader {
+  void operator()(GifFileType* file) const { DGifCloseFile(file, nullptr); }
+};
+struct FreePalette {
+  void operator()(ColorMapObject* map) const { GifFreeMapObject(map); }
+};
+using Reader = std::unique_ptr<GifFileType, CloseReader>;
+
+int ReadBytes(GifFileType* file, GifByteType* to, int count) {
+  auto& bytes = *static_cast<ByteReader*>(file->UserData);
+  return count > 0 && bytes.Take(to, static_cast<std::size_t>(count)) ? count : 0;
+}
+
+tl::unexpected<Error> Damaged(const ByteReader& bytes) {
+  return Failure(ErrorCode::kCorrupt,
+                 bytes.truncated() ? "the file is truncated" : "the GIF file is damaged");
+}
+
+// Passes an extension; remembers the transparent colour if it names one.
+bool ReadExtension(GifFileType* file, std::optional<int>& transparent) {
+  int kind = 0;
+  GifByteType* block = nullptr;
+  if (DGifGetExtension(file, &kind, &block) == GIF_ERROR) return false;
+  while (block != nullptr) {
+    GraphicsControlBlock control{};
+    if (kind == GRAPHICS_EXT_FUNC_CODE &&
+        DGifExtensionToGCB(block[0], block + 1, &control) == GIF_OK &&
+        control.TransparentColor != NO_TRANSPARENT_COLOR) {
+      transparent = control.TransparentColor;
+    }
+    if (DGifGetExtensionNext(file, &block) == GIF_ERROR) return false;
+  }
+  return true;
+}
+
+// Goes on to the first frame. False when the file is damaged or holds none.
+bool FindFrame(GifFileType* file, std::optional<int>& transparent) {
+  for (;;) {
+    GifRecordType record = UNDEFINED_RECORD_TYPE;
+    if (DGifGetRecordType(file, &record) == GIF_ERROR) return false;
+    if (record == IMAGE_DESC_RECORD_TYPE) return DGifGetImageDesc(file) == GIF_OK;
+    if (record != EXTENSION_RECORD_TYPE || !ReadExtension(file, transparent)) return false;
+  }
+}
+
+Palette PaletteOf(const ColorMapObject* map) {
+  if (map == nullptr) return Palette::Grays();
+  std::vector<Rgb> colours;
+  for (int i = 0; i < map->ColorCount; ++i) {
+    colours.push_back({map->Colors[i].Red, map->Colors[i].Green, map->Colors[i].Blue});
+  }
+  return Palette(colours);
+}
+
+bool ReadPixels(GifFileType* file, int codeBits, std::span<std::uint8_t> pixels) {
+  const auto nextCode = [&] {
+    int code = -1;
+    return DGifGetLZCodes(file, &code) == GIF_OK ? code : -1;
+  };
+  if (codeBits < 1 || codeBits > 8 || !ExpandLzw(codeBits, nextCode, pixels)) return false;
+  GifByteType* rest = nullptr;
+  do {
+    if (DGifGetCodeNext(file, &rest) == GIF_ERROR) return false;
+  } while (rest != nullptr);
+  return true;
+}
+
+// The rows of an interlaced frame in the order of the file.
+std::vector<int> InterlacedRows(int height) {
+  std::vector<int> rows;
+  for (const auto& [start, step] : {std::array{0, 8}, {4, 8}, {2, 4}, {1, 2}}) {
+    for (int y = start; y < height; y += step) rows.push_back(y);
+  }
+  return rows;
+}
+
+// Puts the frame's rows where they belong in the picture.
+void PlaceFrame(const GifImageDesc& place, const IndexedImage& frame, IndexedImage& picture) {
+  const std::vector<int> order =
+      place.Interlace ? InterlacedRows(place.Height) : std::vector<int>();
+  for (int y = 0; y < place.Height; ++y) {
+    const int row = place.Interlace ? order[static_cast<std::size_t>(y)] : y;
+    const auto from = frame.Row(y);
+    std::copy(from.begin(), from.end(), picture.Row(place.Top + row).begin() + place.Left);
+  }
+}
+
+int AppendToFile(GifFileType* file, const GifByteType* bytes, int count) {
+  auto& buffer = *static_cast<ByteBuffer*>(file->UserData);
+  return AppendBytes(buffer, {bytes, static_cast<std::size_t>(count)}) ? count : 0;
+}
+
+bool WriteGif(GifFileType* file, const IndexedImage& picture, const ColorMapObject* map) {
+  if (EGifPutScreenDesc(file, picture.width(), picture.height(), 8, 0, map) == GIF_ERROR ||
+      EGifPutImageDesc(file, 0, 0, picture.width(), picture.height(), false, nullptr) ==
+          GIF_ERROR) {
+    return false;
+  }
+  std::vector<GifPixelType> row;
+  for (int y = 0; y < picture.height(); ++y) {
+    row.assign(picture.Row(y).begin(), picture.Row(y).end());
+    if (EGifPutLine(file, row.data(), picture.width()) == GIF_ERROR) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+bool LooksLikeGif(std::span<const std::uint8_t> bytes) {
+  const std::string start(bytes.begin(),
+                          bytes.begin() + std::min<std::ptrdiff_t>(6, std::ssize(bytes)));
+  return start == "GIF87a" || start == "GIF89a";
+}
+
+Result<IndexedImage> DecodeGif(std::span<const std::uint8_t> bytes) {
+  ByteReader source(bytes);
+  const Reader file(LooksLikeGif(bytes) ? DGifOpen(&source, ReadBytes, nullptr) : nullptr);
+  std::optional<int> transparent;
+  if (!file || !FindFrame(file.get(), transparent)) return Damaged(source);
+  const int codeBits = bytes[source.position() - 1];
+
+  const GifImageDesc& place = file->Image;
+  const bool local = place.ColorMap != nullptr;
+  const Palette palette = PaletteOf(local ? place.ColorMap : file->SColorMap);
+  const int width = std::max(file->SWidth, place.Left + place.Width);
+  const int height = std::max(file->SHeight, place.Top + place.Height);
+  for (const auto& [w, h] : {std::array{place.Width, place.Height}, {width, height}}) {
+    if (auto fits = CheckPictureSize(w, h); !fits) return tl::unexpected(fits.error());
+  }
+  const std::size_t area = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+  if (area / kMostGifPixelsPerByte > bytes.size()) {
+    return Failure(ErrorCode::kCorrupt, "the file is too short for its size in pixels");
+  }
+
+  auto frame = IndexedImage::Create(place.Width, place.Height, palette);
+  if (!frame) return frame;
+  const bool plain = !place.Interlace && place.Width == width && place.Height == height;
+  if (!plain && area + frame->pixels().size() > kMostPixelsInTwo) {
+    return Failure(ErrorCode::kTooLarge, "the picture needs too much memory");
+  }
+  if (!ReadPixels(file.get(), codeBits, frame->pixels())) return Damaged(source);
+  // Another record must follow, or the mark of the end.
+  GifRecordType record = UNDEFINED_RECORD_TYPE;
+  DGifGetRecordType(file.get(), &record);
+  if (source.truncated()) return Damaged(source);
+  if (plain) return frame;
+
+  auto picture = IndexedImage::Create(width, height, palette);
+  if (!picture) return picture;
+  const int around = transparent.value_or(local ? 0 : file->SBackGroundColor);
+  picture->Fill(static_cast<std::uint8_t>(around < palette.size() ? around : 0));
+  PlaceFrame(place, *frame, *picture);
+  return picture;
+}
+
+Result<EncodedPicture> EncodeGif(const IndexedImage& picture) {
+  if (picture.empty()) return Failure(ErrorCode::kInvalid, "there is no picture to write");
+  const auto noMemory = [] {
+    return Failure(ErrorCode::kTooLarge, "there is not enough memory to write the GIF file");
+  };
+  const auto highest = std::max_element(picture.pixels().begin(), picture.pixels().end());
+  const int colours = 1 << GifBitSize(std::max({2, picture.palette().size(), *highest + 1}));
+  const std::unique_ptr<ColorMapObject, FreePalette> map(GifMakeMapObject(colours, nullptr));
+  if (!map) return noMemory();
+  for (int i = 0; i < colours; ++i) {
+    const Rgb c = picture.palette()[i];
+    map->Colors[i] = {c.red, c.green, c.blue};
+  }
+  ByteBuffer bytes;
+  GifFileType* file = EGifOpen(&bytes, AppendToFile, nullptr);
+  if (file == nullptr) return noMemory();
+  const bool written = WriteGif(file, picture, map.get());
+  if (EGifCloseFile(file, nullptr) == GIF_ERROR || !written) return noMemory();
+  return EncodedPicture(std::move(bytes));
+}
+
+}  // namespace plenovia

@@ -1,0 +1,25 @@
+// GIF files.
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "codec/encoded_picture.h"
+#include "platform/indexed_image.h"
+#include "platform/result.h"
+
+namespace plenovia {
+
+// Whether the bytes begin like a GIF file, 87a or 89a.
+bool LooksLikeGif(std::span<const std::uint8_t> bytes);
+
+// Reads the first frame, with its own palette or else the common one (256 grays when there is
+// neither), colours in their order. The picture is as large as the logical screen, or larger where
+// the frame reaches beyond it; around the frame lies the transparent colour, or without one the
+// background colour. Fails with kCorrupt, kTooLarge or kInvalid.
+[[nodiscard]] Result<IndexedImage> DecodeGif(std::span<const std::uint8_t> bytes);
+
+// 87a, not interlaced, one common palette: the picture's colours, then black up to a power of two.
+[[nodiscard]] Result<EncodedPicture> EncodeGif(const IndexedImage& picture);
+
+}  // namespace plenovia

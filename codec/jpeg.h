@@ -1,0 +1,26 @@
+// JPEG files.
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "codec/encoded_picture.h"
+#include "platform/indexed_image.h"
+#include "platform/result.h"
+
+namespace plenovia {
+
+// Whether the bytes begin like a JPEG file.
+bool LooksLikeJpeg(std::span<const std::uint8_t> bytes);
+
+// Reads baseline and progressive files: a gray picture gets 256 grays, index = gray; colours are
+// reduced to 256 (ColourReducer), inks (CMYK) turned into colours first. A file that ends early,
+// lacks a part of the picture or is damaged is kCorrupt, never half a picture. Arithmetic coding
+// is kUnsupported. A progressive file whose coefficients and picture need more than 768 MiB, or
+// that has very many scans, is kTooLarge.
+[[nodiscard]] Result<IndexedImage> DecodeJpeg(std::span<const std::uint8_t> bytes);
+
+// Baseline, quality 95, colours at full resolution; a gray file when all the palette is gray.
+[[nodiscard]] Result<EncodedPicture> EncodeJpeg(const IndexedImage& picture);
+
+}  // namespace plenovia

@@ -1,0 +1,80 @@
+// The rows of a PNG file in the order in which they are stored.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "codec/byte_stream.h"
+#include "codec/png_errors.h"
+#include "platform/palette.h"
+#include "platform/result.h"
+
+namespace plenovia {
+
+// Where the pixels of a stored row lie in the picture: the first at (left, y), each next one
+// `step` further to the right.
+struct PngRowPlace {
+  int y = 0;
+  int left = 0;
+  int step = 1;
+};
+
+// One pass over a file. Rows come with 8 bits a channel: indexes, gray, gray and alpha, colours,
+// or colours and alpha.
+class PngReader {
+ public:
+  explicit PngReader(std::span<const std::uint8_t> bytes);
+  PngReader(const PngReader&) = delete;
+  PngReader& operator=(const PngReader&) = delete;
+  ~PngReader();
+
+  // To be called first, once: reads what stands before the pixels and checks it against all limits.
+  [[nodiscard]] Result<void> Open();
+
+  int width() const { return width_; }
+  int height() const { return height_; }
+  int channels() const { return channels_; }  // 1 to 4
+  // The file's palette, or grays.
+  Palette palette() const;
+
+  // Calls `useRow(place, bytes)` for each row of the file, once.
+  template <class UseRow>
+  [[nodiscard]] Result<void> ReadRows(const UseRow& useRow) {
+    const int passes = interlaced_ ? PNG_INTERLACE_ADAM7_PASSES : 1;
+    for (int pass = 0; pass < passes; ++pass) {
+      const int columns = interlaced_ ? PNG_PASS_COLS(width_, pass) : width_;
+      const int rows = interlaced_ ? PNG_PASS_ROWS(height_, pass) : height_;
+      const auto bytes = std::span<const std::uint8_t>(row_).first(
+          static_cast<std::size_t>(columns) * static_cast<std::size_t>(channels_));
+      for (int y = 0; columns > 0 && y < rows; ++y) {
+        if (!errors_.Guarded([&] { png_read_row(png_, row_.data(), nullptr); })) return Damaged();
+        useRow(PlaceOf(pass, y), bytes);
+      }
+    }
+    if (!errors_.Guarded([&] { png_read_end(png_, nullptr); })) return Damaged();
+    return {};
+  }
+
+ private:
+  static void ReadBytes(png_structp png, png_bytep to, std::size_t count);
+  void Prepare();
+  void ReadHeader();
+  [[nodiscard]] Result<void> CheckLimits() const;
+  PngRowPlace PlaceOf(int pass, int y) const;
+  tl::unexpected<Error> Damaged() const;
+
+  ByteReader source_;
+  std::size_t fileSize_;
+  PngErrors errors_;
+  png_structp png_ = nullptr;
+  png_infop info_ = nullptr;
+  int width_ = 0;
+  int height_ = 0;
+  int channels_ = 0;
+  bool interlaced_ = false;
+  std::vector<std::uint8_t> row_;
+};
+
+}  // namespace plenovia
