@@ -1,0 +1,15 @@
+#include "codec/gif_intf.h"
+
+#include "codec/gif.h"
+#include "platform/file_io.h"
+
+namespace plenovia {
+
+Result<IndexedImage> TGifIntf::Read_File(const std::filesystem::path& path) {
+  const auto bytes = ReadFile(path);
+  if (!bytes) return tl::unexpected(bytes.error());
+  if (!LooksLikeGif(*bytes)) return Failure(ErrorCode::kUnsupported, "is not a GIF file");
+  return DecodeGif(*bytes);
+}
+
+}  // namespace plenovia

@@ -1,0 +1,60 @@
+// Picture files of every format: the one place that the rest of the program reads and writes by.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string>
+
+#include "codec/encoded_picture.h"
+#include "codec/graphic_format.h"
+#include "platform/indexed_image.h"
+#include "platform/result.h"
+
+namespace plenovia {
+
+// The format that the bytes are in, by their content; kUnknown when no reader knows them.
+GraphicFormat DetectFormat(std::span<const std::uint8_t> bytes);
+// The picture in the bytes of a file of any format. kUnsupported when no reader knows them.
+[[nodiscard]] Result<IndexedImage> DecodePicture(std::span<const std::uint8_t> bytes);
+// kUnsupported for formats that are not picture files.
+[[nodiscard]] Result<EncodedPicture> EncodePicture(GraphicFormat format,
+                                                   const IndexedImage& picture);
+
+// A picture as memory without compression would hold it.
+struct BitmapInfo {
+  int width = 0;
+  int height = 0;
+  int bytesPerRow = 0;  // a multiple of 4
+  int planes = 1;
+  int bitsPerPixel = 8;
+};
+
+// One reading or writing of a picture file.
+class TGraphIO {
+ public:
+  // The number of the file's format by its content (GraphicFormat); 0 when it cannot be read or
+  // no reader knows it.
+  static int GetGraphicFormat(const std::filesystem::path& path);
+  // Reads a picture file of any format.
+  [[nodiscard]] Result<IndexedImage> Read_File(const std::filesystem::path& path);
+  // Of the picture read last; one black entry before.
+  const Palette& GetPalette() const { return palette_; }
+
+  // The format that Write_File() writes, whatever the name; at first 1 (BMP).
+  void SetGraphicFormat(int format) { format_ = format; }
+  // Fails with kUnsupported for a number that is not that of a picture format. On failure the file
+  // that was there stays as it was.
+  [[nodiscard]] Result<void> Write_File(const std::filesystem::path& path,
+                                        const IndexedImage& picture) const;
+
+  static BitmapInfo GetBitmapInfo(const IndexedImage& picture);
+  // The libraries that read and write, a line each.
+  static std::string GetVersionString();
+
+ private:
+  int format_ = static_cast<int>(GraphicFormat::kBmp);
+  Palette palette_;
+};
+
+}  // namespace plenovia
