@@ -1,14 +1,12 @@
 // The scan methods on one core: megapixels a second of the plain rule and of the prepared form,
 // beside copying the rows.
 
-#include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <cstring>
-#include <functional>
-#include <numbers>
+#include <span>
 #include <vector>
 
+#include "bench/smooth_depth.h"
 #include "bench/stopwatch.h"
 #include "engine/prepared_shift.h"
 #include "platform/random.h"
@@ -21,23 +19,7 @@ constexpr int kWidth = 4000;
 constexpr int kHeight = 3000;
 constexpr int kDistinctRows = 250;  // of depth; used again and again, as a picture's cache would
 
-// Hills and a ball over a slope: levels 0..255.
-std::vector<std::uint8_t> SmoothDepth() {
-  std::vector<std::uint8_t> depth;
-  for (int y = 0; y < kDistinctRows; ++y) {
-    for (int x = 0; x < kWidth; ++x) {
-      const double u = static_cast<double>(x) / kWidth;
-      const double v = static_cast<double>(y) / kDistinctRows;
-      double level = 60 + 50 * std::sin(3 * std::numbers::pi * u) * std::cos(2 * v) + 40 * v;
-      const double r2 = std::pow((u - 0.6) * 4, 2) + std::pow((v - 0.5) * 3, 2);
-      if (r2 < 1) level = std::max(level, 130 + 120 * std::sqrt(1 - r2));
-      depth.push_back(static_cast<std::uint8_t>(std::clamp(level, 0.0, 255.0)));
-    }
-  }
-  return depth;
-}
-
-void Measure(const char* name, std::int32_t method, const std::vector<std::uint8_t>& depth,
+void Measure(const char* name, std::int32_t method, std::span<const std::uint8_t> depth,
              const std::vector<std::uint8_t>& background) {
   TSirdsSettings settings;
   settings.scanMethod = method;
@@ -79,13 +61,13 @@ void Measure(const char* name, std::int32_t method, const std::vector<std::uint8
 }  // namespace
 
 int main() {
-  const auto depth = SmoothDepth();
+  const IndexedImage depth = bench::SmoothDepth(kWidth, kDistinctRows);
   Random random(1);
   std::vector<std::uint8_t> background(kWidth);
   for (auto& pixel : background) pixel = random.Byte();
   std::printf("Scan methods, one core, %d x %d, megapixels a second\n", kWidth, kHeight);
   std::printf("%-14s %10s %10s %10s %10s\n", "", "copying", "plain", "prepared", "ratio");
-  Measure("Left-To-Right", kLeftToRight, depth, background);
-  Measure("McMahon", kMcMahon, depth, background);
-  Measure("Feucht", kFeucht, depth, background);
+  Measure("Left-To-Right", kLeftToRight, depth.pixels(), background);
+  Measure("McMahon", kMcMahon, depth.pixels(), background);
+  Measure("Feucht", kFeucht, depth.pixels(), background);
 }
