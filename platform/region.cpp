@@ -59,7 +59,7 @@ Region Region::Polygon(std::span<const PixelPoint> vertices) {
                      static_cast<std::uint32_t>(i)});
   }
   outline->edges = RowIndex(edges);
-  return {BoundsOf(vertices), std::move(outline)};
+  return {BoundsOf(vertices), PolygonShape(std::move(outline))};
 }
 
 Region Region::Line(const PixelPoint& a, const PixelPoint& b) {

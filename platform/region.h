@@ -68,7 +68,9 @@ class Region {
   using Shape =
       std::variant<RectangleShape, EllipseShape, RoundRectangleShape, LineShape, PolygonShape>;
 
-  Region(const PixelRect& bounds, Shape shape) : bounds_(bounds), shape_(std::move(shape)) {}
+  template <class One>
+  Region(const PixelRect& bounds, One shape)
+      : bounds_(bounds), shape_(std::in_place_type<One>, std::move(shape)) {}
 
   void AddSpans(const RectangleShape& shape, std::int64_t y, RowSpans& spans) const;
   void AddSpans(const EllipseShape& shape, std::int64_t y, RowSpans& spans) const;

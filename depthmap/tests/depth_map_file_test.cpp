@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <limits>
 #include <memory>
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -18,8 +18,7 @@ namespace {
 
 // A file of a header and these numbers, the count of records first.
 ByteBuffer File(const std::vector<std::int32_t>& numbers) {
-  const std::string start("DEPTHMAP\0.......\1", 17);
-  ByteBuffer bytes(start.begin(), start.end());
+  ByteBuffer bytes{'D', 'E', 'P', 'T', 'H', 'M', 'A', 'P', 0, '.', '.', '.', '.', '.', '.', '.', 1};
   for (const std::int32_t number : numbers) PutInt32(bytes, number);
   return bytes;
 }
