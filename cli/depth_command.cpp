@@ -1,0 +1,107 @@
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "cli/commands.h"
+#include "cli/options.h"
+#include "cli/output.h"
+#include "cli/source.h"
+#include "cli/terminal_monitor.h"
+#include "engine/bands.h"
+#include "engine/depth_source.h"
+#include "figures/sirdmath.h"
+
+namespace plenovia {
+
+namespace {
+
+struct DepthOptions {
+  std::string source;
+  std::string out;
+  TSirdsSettings settings;
+  RunOptions run;
+  std::vector<CLI::Option*> figureOnly;
+};
+
+// The source in its own geometry: without the displacements that the scan methods need.
+std::unique_ptr<DepthSource> MakeDepthSource(const Source& source, int width, int height,
+                                             TSirdsSettings settings) {
+  if (const auto* picture = std::get_if<IndexedImage>(&source)) {
+    return std::make_unique<PictureDepth>(*picture, 1.0, 0, settings.depthSel);
+  }
+  if (const auto* map = std::get_if<TDepthList>(&source)) {
+    return std::make_unique<MapDepth>(*map, 0);
+  }
+  settings.gapValue = 0;
+  const std::int32_t code = std::get<Figure>(source).Code();
+  return std::make_unique<FigureDepth>(_GetFigureLevel, code, width, height, settings);
+}
+
+std::pair<int, int> SizeOf(const Source& source, const TSirdsSettings& settings) {
+  if (const auto* picture = std::get_if<IndexedImage>(&source)) {
+    return {picture->width(), picture->height()};
+  }
+  if (const auto* map = std::get_if<TDepthList>(&source)) {
+    return {map->GridWidth(), map->GridHeight()};
+  }
+  return {settings.w, settings.h};
+}
+
+Result<IndexedImage> DepthPicture(const Source& source, const DepthOptions& options) {
+  const auto [width, height] = SizeOf(source, options.settings);
+  auto picture = IndexedImage::Create(width, height, Palette::Grays());
+  if (!picture) return picture;
+  const auto depth = MakeDepthSource(source, width, height, options.settings);
+  TerminalMonitor monitor(options.run.quiet);
+  const auto makeWorker = [&]() -> RowWorker {
+    auto levels = std::make_shared<std::vector<std::int32_t>>(static_cast<std::size_t>(width));
+    return [&, levels](int scanLine) {
+      depth->BuildRow(scanLine, *levels);
+      std::transform(
+          levels->begin(), levels->end(), picture->ScanLine(scanLine).begin(),
+          [](std::int32_t level) { return static_cast<std::uint8_t>(std::clamp(level, 0, 255)); });
+    };
+  };
+  const bool finished = RunBands(width, height, options.run.Threads(), makeWorker, monitor);
+  monitor.OnProgress(ProgressPhase::kEnd, {});
+  if (!finished) return Failure(ErrorCode::kCancelled, "stopped");
+  return picture;
+}
+
+Outcome<void> Depth(const DepthOptions& options) {
+  if (const CLI::Option* given = FirstGiven(options.figureOnly);
+      given != nullptr && !NamesFigure(options.source)) {
+    return WrongUsage(given->get_name() + " is for figures only");
+  }
+  const auto source = OpenSource(options.source);
+  if (!source) return tl::unexpected(source.error());
+  const auto picture = DepthPicture(*source, options);
+  if (!picture) return Failed(options.source, picture.error());
+  return WriteOutput(options.out, *picture);
+}
+
+}  // namespace
+
+void AddDepthCommand(CLI::App& program, Task& task) {
+  CLI::App* command = program.add_subcommand("depth", "Show the depth of a source in gray");
+  auto options = std::make_shared<DepthOptions>();
+  AddOperand(*command, "SOURCE", options->source, kSourceHelp);
+  AddOutput(*command, options->out, OutputKind::kGray);
+  AddDepthBy(*command, options->settings);
+  options->figureOnly = AddFigureOptions(*command, options->settings);
+  AddRunOptions(*command, options->run);
+  for (CLI::Option* option : options->figureOnly) option->group("Figures only");
+  command->footer(
+      "The gray of a pixel is its depth level: 0 is black and far, 255 white and near; levels\n"
+      "beyond are cut off. Figures span a few levels only, so their pictures are dark.\n\n"
+      "Example: sirds depth figure:3 -o figure.png --width 800 --height 600");
+  command->callback([&task, options] { task = [options] { return Depth(*options); }; });
+}
+
+}  // namespace plenovia

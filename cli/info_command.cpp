@@ -1,0 +1,45 @@
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <string>
+#include <variant>
+
+#include "cli/commands.h"
+#include "cli/options.h"
+#include "cli/source.h"
+
+namespace plenovia {
+
+namespace {
+
+std::string Lines(const std::string& format, int width, int height) {
+  return "format: " + format + "\nsize: " + std::to_string(width) + 'x' + std::to_string(height) +
+         '\n';
+}
+
+Outcome<void> Tell(const std::string& file) {
+  const auto opened = OpenFile(file);
+  if (!opened) return tl::unexpected(opened.error());
+  if (const auto* map = std::get_if<TDepthList>(&opened->source)) {
+    return Print(Lines(opened->format, map->GridWidth(), map->GridHeight()) +
+                 "objects: " + std::to_string(map->CountObjects()) + '\n');
+  }
+  const auto& picture = std::get<IndexedImage>(opened->source);
+  return Print(Lines(opened->format, picture.width(), picture.height()) +
+               "colours: " + std::to_string(picture.palette().size()) + '\n');
+}
+
+}  // namespace
+
+void AddInfoCommand(CLI::App& program, Task& task) {
+  CLI::App* command = program.add_subcommand("info", "Tell what is in a file");
+  auto file = std::make_shared<std::string>();
+  AddOperand(*command, "FILE", *file,
+             "A picture (BMP, PCX, GIF, JPEG or PNG) or a depth map (.rds)");
+  command->footer(
+      "Prints lines such as \"format: GIF\", \"size: 640x480\" and \"colours: 256\" (the colours\n"
+      "of its palette); of a depth map \"format: RDS\", its size and \"objects: 7\".\n\n"
+      "Example: sirds info scene.png");
+  command->callback([&task, file] { task = [file] { return Tell(*file); }; });
+}
+
+}  // namespace plenovia

@@ -1,0 +1,112 @@
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "cli/commands.h"
+#include "cli/options.h"
+#include "cli/output.h"
+#include "cli/pattern.h"
+#include "cli/source.h"
+#include "cli/terminal_monitor.h"
+#include "engine/generation.h"
+#include "figures/sirdmath.h"
+
+namespace plenovia {
+
+namespace {
+
+struct MakeOptions {
+  std::string source;
+  std::string out;
+  std::string pattern = "0";
+  std::string background;
+  TSirdsSettings settings;
+  RunOptions run;
+  std::vector<CLI::Option*> figureOnly;
+  std::vector<CLI::Option*> sizes;
+};
+
+Outcome<void> CheckOptions(const MakeOptions& options) {
+  if (auto range = CheckDepthRange(options.settings); !range) return range;
+  if (!NamesFigure(options.source)) {
+    if (const CLI::Option* given = FirstGiven(options.figureOnly)) {
+      return WrongUsage(given->get_name() + " is for figures only");
+    }
+  } else if (const CLI::Option* given = FirstGiven(options.sizes);
+             given != nullptr && !options.background.empty()) {
+    return WrongUsage("the background gives the size; leave out " + given->get_name());
+  }
+  return {};
+}
+
+// The stereogram of the source, which is released before this returns.
+Outcome<IndexedImage> MakeStereogram(const MakeOptions& options) {
+  const auto source = OpenSource(options.source);
+  if (!source) return tl::unexpected(source.error());
+  const auto pattern = OpenPattern(options.pattern);
+  if (!pattern) return tl::unexpected(pattern.error());
+  IndexedImage background;
+  if (!options.background.empty()) {
+    auto picture = ReadPicture(options.background);
+    if (!picture) return picture;
+    background = std::move(*picture);
+  }
+
+  TerminalMonitor monitor(options.run.quiet);
+  const RunInput input{*pattern, options.settings, monitor, options.run.Threads()};
+  Result<IndexedImage> result;
+  if (const auto* picture = std::get_if<IndexedImage>(&*source)) {
+    result = MakeSirdFromBitmap(*picture, 1.0, input);
+  } else if (const auto* map = std::get_if<TDepthList>(&*source)) {
+    result = MakeSirdFromDepthMap(*map, input);
+  } else {
+    const std::int32_t code = std::get<Figure>(*source).Code();
+    result = MakeSirdFromFigure({_GetFigureLevel, code, &background, {}}, input);
+  }
+  if (!result) return Failed(options.out, result.error());
+  return std::move(*result);
+}
+
+Outcome<void> Make(const MakeOptions& options) {
+  if (auto checked = CheckOptions(options); !checked) return checked;
+  const auto stereogram = MakeStereogram(options);
+  if (!stereogram) return tl::unexpected(stereogram.error());
+  return WriteOutput(options.out, *stereogram);
+}
+
+}  // namespace
+
+void AddMakeCommand(CLI::App& program, Task& task) {
+  CLI::App* command = program.add_subcommand("make", "Make a stereogram");
+  auto options = std::make_shared<MakeOptions>();
+  AddOperand(*command, "SOURCE", options->source, kSourceHelp);
+  AddOutput(*command, options->out, OutputKind::kPicture);
+  command
+      ->add_option("--pattern", options->pattern,
+                   "Background tile: a picture, or its number in the list\n"
+                   "of 'sirds patterns' (default 0)")
+      ->option_text("FILE|NUMBER");
+  AddScanOptions(*command, options->settings);
+  AddDepthBy(*command, options->settings);
+  AddMarkers(*command, options->settings);
+  options->figureOnly = AddFigureOptions(*command, options->settings);
+  options->sizes.assign(options->figureOnly.begin(), options->figureOnly.begin() + 2);
+  options->figureOnly.push_back(
+      command
+          ->add_option("--background", options->background,
+                       "Draw the figure into this picture instead of tiles;\n"
+                       "the result has its size and the pattern's colours")
+          ->option_text("PICTURE"));
+  AddRunOptions(*command, options->run);
+  for (CLI::Option* option : options->figureOnly) option->group("Figures only");
+  command->footer(
+      "The stereogram has the size of its source. Look at it with the eyes parallel, as at\n"
+      "something far behind it, until its two markers become three.\n\n"
+      "Example: sirds make scene.png -o scene-3d.png --depth-by brightness --zmax 255");
+  command->callback([&task, options] { task = [options] { return Make(*options); }; });
+}
+
+}  // namespace plenovia

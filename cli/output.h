@@ -1,0 +1,28 @@
+// Where a picture goes: what the command line calls OUT.
+#pragma once
+
+#include <string>
+
+#include "cli/outcome.h"
+#include "platform/indexed_image.h"
+
+namespace CLI {
+class App;
+}  // namespace CLI
+
+namespace plenovia {
+
+enum class OutputKind {
+  kPicture,  // .bmp, .pcx, .gif, .jpg, .jpeg or .png
+  kGray,     // also .pgm
+};
+
+// The required option "-o OUT". A name whose extension is not one of the kind's is wrong usage.
+void AddOutput(CLI::App& command, std::string& out, OutputKind kind);
+
+// Writes the picture in the format that the extension names; the pixels of a .pgm are the grays.
+// A file that was there is replaced in one step, or stays as it was when anything fails. Nothing is
+// written once a stop signal came.
+[[nodiscard]] Outcome<void> WriteOutput(const std::string& out, const IndexedImage& picture);
+
+}  // namespace plenovia

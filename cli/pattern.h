@@ -1,0 +1,19 @@
+// The tile that a stereogram is made of: what the command line calls a pattern.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "cli/outcome.h"
+#include "platform/indexed_image.h"
+
+namespace plenovia {
+
+// A text of digits is the number of a file of the pattern library (a number that it does not have
+// is wrong usage), any other one is a picture file. Nothing but the one tile is read.
+[[nodiscard]] Outcome<IndexedImage> OpenPattern(const std::string& text);
+
+// Where the pattern library lies.
+[[nodiscard]] Outcome<std::filesystem::path> PatternFolder();
+
+}  // namespace plenovia

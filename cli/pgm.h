@@ -1,0 +1,14 @@
+// PGM files: gray pictures that every tool of the trade reads.
+#pragma once
+
+#include "codec/encoded_picture.h"
+#include "platform/indexed_image.h"
+#include "platform/result.h"
+
+namespace plenovia {
+
+// The binary form (P5) with 255 as white. The pixels are written as they are, whatever the palette
+// says; the picture must outlive the result.
+[[nodiscard]] Result<EncodedPicture> EncodePgm(const IndexedImage& picture);
+
+}  // namespace plenovia

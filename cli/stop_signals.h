@@ -1,0 +1,11 @@
+// The wish of the user or the system that the program end: Ctrl-C and its relatives.
+#pragma once
+
+namespace plenovia {
+
+// From now on SIGINT, SIGTERM and SIGHUP (unless it was ignored) are only noted.
+void CatchStopSignals();
+// Whether one of them came.
+bool StopSignalCame();
+
+}  // namespace plenovia

@@ -1,0 +1,146 @@
+// Failures: one line that names what is wrong, the right exit status, and nothing left behind.
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <ostream>
+#include <thread>
+
+#include "cli/tests/fixture.h"
+
+namespace plenovia {
+
+namespace {
+
+// In the arguments "@" stands for the test's folder.
+struct Wrong {
+  const char* name;
+  std::vector<std::string> arguments;
+  int status;
+  std::vector<std::string> told;
+};
+
+void PrintTo(const Wrong& wrong, std::ostream* out) {
+  *out << wrong.name;
+}
+
+class Errors : public SirdsTest, public testing::WithParamInterface<Wrong> {
+ protected:
+  std::string Expanded(std::string text) const {
+    const auto at = text.find('@');
+    return at == std::string::npos ? text : text.replace(at, 1, folder_.path().string());
+  }
+};
+
+TEST_P(Errors, AreToldInOneLineAndLeaveNothingBehind) {
+  Write("empty.bmp", "");
+  Write("cut.bmp", Contents("scene.bmp").substr(0, 2000));
+  Write("cut.rds", Contents("map.rds").substr(0, 60));
+  Write("text.png", "This is no picture.\n");
+  std::string huge = Contents("scene.bmp");
+  huge.replace(18, 8, std::string("\xff\x7f\0\0\xff\x3f\0\0", 8));  // 32767 x 16383 pixels
+  Write("huge.bmp", huge);
+  Write("old.png", "old");
+  ASSERT_EQ(mkfifo(Path("fifo").c_str(), 0600), 0);
+  std::filesystem::create_directory(Path("folder.png"));
+  const int before = folder_.Count();
+
+  std::vector<std::string> arguments;
+  for (const std::string& argument : GetParam().arguments) arguments.push_back(Expanded(argument));
+  const Finished run = Sirds(arguments);
+
+  EXPECT_EQ(run.status, GetParam().status) << run.err;
+  EXPECT_EQ(run.out, "");
+  EXPECT_TRUE(run.err.starts_with("sirds: ")) << run.err;
+  EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
+  for (const std::string& text : GetParam().told) {
+    EXPECT_NE(run.err.find(Expanded(text)), std::string::npos) << run.err << " lacks " << text;
+  }
+  EXPECT_EQ(folder_.Count(), before);
+  EXPECT_EQ(Contents("old.png"), "old");
+}
+
+const Wrong kUsage[] = {
+    {"NoCommand", {}, 2, {"--help"}},
+    {"UnknownCommand", {"draw"}, 2, {}},
+    {"UnknownOption", {"make", "@/scene.bmp", "-o", "@/out.png", "--zoom", "2"}, 2, {"--zoom"}},
+    {"MissingSource", {"make", "-o", "@/out.png"}, 2, {"SOURCE", "'sirds make --help'"}},
+    {"MissingOut", {"make", "@/scene.bmp"}, 2, {"-o"}},
+    {"MissingValue", {"make", "@/scene.bmp", "-o", "@/out.png", "--gap"}, 2, {"--gap"}},
+    {"TwoSources", {"make", "@/scene.bmp", "@/map.rds", "-o", "@/out.png"}, 2, {"map.rds"}},
+    {"UnknownExtension", {"make", "@/scene.bmp", "-o", "@/out.tif"}, 2, {"out.tif", ".png"}},
+    {"NoExtension", {"depth", "@/scene.bmp", "-o", "@/png"}, 2, {"png"}},
+    {"StereogramInPgm", {"make", "@/scene.bmp", "-o", "@/out.pgm"}, 2, {"out.pgm"}},
+    {"SmallGap", {"make", "@/scene.bmp", "-o", "@/out.png", "--gap", "1"}, 2, {"2 to 4096"}},
+    {"HugeGap", {"make", "@/scene.bmp", "-o", "@/o.png", "--gap", "9999999999"}, 2, {"4096"}},
+    {"NoNumber", {"make", "@/scene.bmp", "-o", "@/out.png", "--gap", "12x"}, 2, {"12x"}},
+    {"NoMethod", {"make", "@/scene.bmp", "-o", "@/o.png", "--scan", "up"}, 2, {"mcmahon"}},
+    {"Range", {"make", "@/scene.bmp", "-o", "@/o.png", "--zmin", "70"}, 2, {"70", "63"}},
+    {"FigureOption", {"make", "@/scene.bmp", "-o", "@/o.png", "--dx", "-5"}, 2, {"--dx"}},
+    {"TwoSizes",
+     {"make", "figure:0", "-o", "@/o.png", "--background", "@/scene.bmp", "--width", "9"},
+     2,
+     {"--width"}},
+    {"NoSuchFigure", {"make", "figure:9999", "-o", "@/o.png"}, 2, {"figure:9999"}},
+    {"NoSuchTitle", {"depth", "figure:qqq", "-o", "@/o.png"}, 2, {"figure:qqq"}},
+};
+INSTANTIATE_TEST_SUITE_P(Usage, Errors, testing::ValuesIn(kUsage),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+const Wrong kFiles[] = {
+    {"Missing", {"make", "@/none.bmp", "-o", "@/old.png"}, 1, {"@/none.bmp: "}},
+    {"Folder", {"make", "@", "-o", "@/out.png"}, 1, {"@: is a directory"}},
+    {"Device", {"make", "/dev/null", "-o", "@/out.png"}, 1, {"/dev/null: "}},
+    {"Fifo", {"info", "@/fifo"}, 1, {"@/fifo: "}},
+    {"Empty", {"make", "@/empty.bmp", "-o", "@/out.png"}, 1, {"@/empty.bmp: "}},
+    {"Cut", {"make", "@/cut.bmp", "-o", "@/old.png"}, 1, {"@/cut.bmp: "}},
+    {"CutMap", {"make", "@/cut.rds", "-o", "@/old.png"}, 1, {"@/cut.rds: "}},
+    {"Text", {"depth", "@/text.png", "-o", "@/out.pgm"}, 1, {"@/text.png: "}},
+    {"Pattern",
+     {"make", "@/scene.bmp", "-o", "@/old.png", "--pattern", "@/text.png"},
+     1,
+     {"@/text.png: "}},
+    {"Background",
+     {"make", "figure:0", "-o", "@/old.png", "--background", "@/none.png", "--pattern",
+      "@/tile.gif"},
+     1,
+     {"@/none.png: "}},
+    {"OutIsFolder",
+     {"make", "@/scene.bmp", "-o", "@/folder.png", "--pattern", "@/tile.gif"},
+     1,
+     {"@/folder.png: "}},
+    {"OutNowhere",
+     {"make", "@/scene.bmp", "-o", "@/no/out.png", "--pattern", "@/tile.gif"},
+     1,
+     {"@/no/out.png: "}},
+    {"LineBreakInName", {"info", "no\nsuch\nfile"}, 1, {"no?such?file"}},
+};
+INSTANTIATE_TEST_SUITE_P(Files, Errors, testing::ValuesIn(kFiles),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+class Stopping : public SirdsTest, public testing::WithParamInterface<int> {};
+
+TEST_P(Stopping, EndsALongRunAndLeavesNothing) {
+  Write("old.png", "old");
+  const int before = folder_.Count();
+  Process run(
+      {"depth", "figure:0", "-o", Path("old.png"), "--width", "20000", "--height", "20000"});
+  std::this_thread::sleep_for(std::chrono::milliseconds(300));
+  run.Signal(GetParam());
+  const auto start = std::chrono::steady_clock::now();
+  const Finished finished = run.Wait();
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
+  EXPECT_EQ(finished.status, 1);
+  EXPECT_TRUE(finished.err.starts_with("sirds: ")) << finished.err;
+  EXPECT_NE(finished.err.find("stopped"), std::string::npos) << finished.err;
+  EXPECT_EQ(folder_.Count(), before);
+  EXPECT_EQ(Contents("old.png"), "old");
+}
+
+INSTANTIATE_TEST_SUITE_P(Signals, Stopping, testing::Values(SIGINT, SIGTERM));
+
+}  // namespace
+
+}  // namespace plenovia

@@ -1,0 +1,123 @@
+// `sirds make` writes exactly what the engine makes of the same source and parameters.
+#include <filesystem>
+#include <functional>
+#include <ostream>
+
+#include "cli/tests/fixture.h"
+#include "depthmap/depth_map_file.h"
+#include "engine/generation.h"
+#include "figures/sirdmath.h"
+#include "testing/picture_compare.h"
+
+namespace plenovia {
+
+namespace {
+
+struct Parameters {
+  const char* name;
+  std::vector<std::string> options;
+  TSirdsSettings settings;
+};
+
+void PrintTo(const Parameters& parameters, std::ostream* out) {
+  *out << parameters.name;
+}
+
+class Make : public SirdsTest, public testing::WithParamInterface<Parameters> {
+ protected:
+  RunInput Input() { return {pattern_, GetParam().settings, monitor_}; }
+
+  // Runs the command and compares what it wrote.
+  void Expect(const Result<IndexedImage>& expected, std::vector<std::string> arguments) {
+    ASSERT_TRUE(expected.has_value());
+    arguments.insert(arguments.begin(), "make");
+    arguments.insert(arguments.end(), {"-o", out_, "--pattern", tile_, "-q"});
+    const auto& options = GetParam().options;
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    const Finished run = Sirds(arguments);
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out + run.err, "");
+    EXPECT_TRUE(SamePixels(*expected, Read(out_)));
+    EXPECT_TRUE(SameColours(*expected, Read(out_)));
+  }
+
+  SilentMonitor monitor_;
+};
+
+TEST_P(Make, FromAPicture) {
+  Expect(MakeSirdFromBitmap(picture_, 1.0, Input()), {scene_});
+}
+
+TEST_P(Make, FromADepthMap) {
+  const auto map = ReadDepthMap(map_);
+  ASSERT_TRUE(map.has_value());
+  Expect(MakeSirdFromDepthMap(map->list, Input()), {map_});
+}
+
+TEST_P(Make, FromAFigure) {
+  TSirdsSettings settings = GetParam().settings;
+  settings.w = 250;
+  settings.h = 120;
+  settings.dx = -20;
+  settings.dy = 10;
+  settings.da = -30;
+  const RunInput input{pattern_, settings, monitor_};
+  const std::vector<std::string> moved{"figure:1", "--dx", "-20", "--dy", "10", "--da", "-30"};
+  auto sized = moved;
+  sized.insert(sized.end(), {"--width", "250", "--height", "120"});
+  Expect(MakeSirdFromFigure({_GetFigureLevel, -2, nullptr, {}}, input), sized);
+  auto backed = moved;
+  backed.insert(backed.end(), {"--background", scene_});
+  Expect(MakeSirdFromFigure({_GetFigureLevel, -2, &picture_, {}}, input), backed);
+}
+
+const Parameters kParameters[] = {
+    {"Defaults", {}, {}},
+    {"LeftToRight",
+     {"--scan", "left-to-right", "--zmax", "255", "--markers"},
+     {.zmax = 255, .scanMethod = kLeftToRight}},
+    {"McMahon",
+     {"--scan", "mcmahon", "--gap", "60", "--zmin", "-5", "--zmax", "90", "--threads", "1"},
+     {.zmax = 90, .zmin = -5, .gapValue = 60}},
+    {"Feucht",
+     {"--scan", "feucht", "--no-markers", "--depth-by", "brightness", "--threads", "3"},
+     {.depthSel = kDepthByBrightness, .marker = 0, .scanMethod = kFeucht}},
+};
+INSTANTIATE_TEST_SUITE_P(Parameters, Make, testing::ValuesIn(kParameters),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+TEST_F(SirdsTest, WritesEachFormatByItsExtension) {
+  SilentMonitor monitor;
+  const TSirdsSettings settings;
+  const auto expected = MakeSirdFromBitmap(picture_, 1.0, {pattern_, settings, monitor});
+  ASSERT_TRUE(expected.has_value());
+  const std::vector<std::pair<std::string, std::string>> kFormats = {
+      {"out.bmp", "BMP"},  {"out.pcx", "PCX"},   {"out.gif", "GIF"}, {"a b.PNG", "PNG"},
+      {"out.jpg", "JPEG"}, {"out.jpeg", "JPEG"}, {"é.x.jpg", "JPEG"}};
+  for (const auto& [name, format] : kFormats) {
+    const Finished run = Sirds({"make", scene_, "-o", Path(name), "--pattern", tile_});
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(Sirds({"info", Path(name)}).out.find("format: " + format + "\n"), std::string::npos);
+    if (format == "JPEG") continue;
+    EXPECT_TRUE(SamePixels(*expected, Read(Path(name)))) << name;
+  }
+}
+
+TEST_F(SirdsTest, ReplacesItsOwnSource) {
+  ASSERT_EQ(Sirds({"make", scene_, "-o", out_, "--pattern", tile_}).status, 0);
+  ASSERT_EQ(Sirds({"make", scene_, "-o", scene_, "--pattern", tile_}).status, 0);
+  EXPECT_TRUE(SamePixels(Read(out_), Read(scene_)));
+}
+
+TEST_F(SirdsTest, TakesNamesThatBeginWithADash) {
+  const auto home = std::filesystem::current_path();
+  std::filesystem::current_path(folder_.path());
+  std::filesystem::copy_file("scene.bmp", "-scene.bmp");
+  EXPECT_EQ(Sirds({"make", "-o", "-out.png", "--pattern", tile_, "--", "-scene.bmp"}).status, 0);
+  EXPECT_TRUE(std::filesystem::exists("-out.png"));
+  std::filesystem::current_path(home);
+}
+
+}  // namespace
+
+}  // namespace plenovia
