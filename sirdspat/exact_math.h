@@ -19,7 +19,9 @@ inline double ExactSin(double angle) {
   const double s = x * x;
   return x * (1 + s * (-1.0 / 6 + s * (1.0 / 120 + s * (-1.0 / 5040 + s / 362880))));
 }
-inline double ExactCos(double angle) { return ExactSin(angle + kPi / 2); }
+inline double ExactCos(double angle) {
+  return ExactSin(angle + kPi / 2);
+}
 
 // The angle of (x, y) in -pi..pi to about 0.01; 0 for (0, 0).
 inline double RoughAngle(double y, double x) {
@@ -33,12 +35,16 @@ inline double RoughAngle(double y, double x) {
   return y < 0 ? -angle : angle;
 }
 
-inline double Clamp01(double t) { return std::clamp(t, 0.0, 1.0); }
+inline double Clamp01(double t) {
+  return std::clamp(t, 0.0, 1.0);
+}
 // 0 below `low`, 1 above `high`, a smooth step between them.
 inline double SmoothStep(double low, double high, double value) {
   const double t = Clamp01((value - low) / (high - low));
   return t * t * (3 - 2 * t);
 }
-inline double Fraction(double value) { return value - std::floor(value); }
+inline double Fraction(double value) {
+  return value - std::floor(value);
+}
 
 }  // namespace plenovia

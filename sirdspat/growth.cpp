@@ -10,9 +10,9 @@ namespace {
 
 constexpr Torus kSize{100, 128};
 
-// Two substances that react and spread (Gray and Scott, 1984, in Pearson's form, 1993); what remains
-// of the second after `steps`. Feed and kill differ from place to place, so that spots, worms and
-// mazes stand side by side.
+// Two substances that react and spread (Gray and Scott, 1984, in Pearson's form, 1993); what
+// remains of the second after `steps`. Feed and kill differ from place to place, so that spots,
+// worms and mazes stand side by side.
 std::vector<double> ReactAndSpread(Torus size, int steps, std::uint64_t seed) {
   const auto width = static_cast<std::size_t>(size.width);
   const auto height = static_cast<std::size_t>(size.height);
@@ -28,7 +28,8 @@ std::vector<double> ReactAndSpread(Torus size, int steps, std::uint64_t seed) {
     const double mix = Clamp01(0.5 + 0.7 * place.At(x, y));
     feed[i] = 0.030 + 0.016 * mix;
     kill[i] = 0.0605 + 0.0025 * mix;
-    if (HashUnit(seed + 2, static_cast<std::int64_t>(x / 3), static_cast<std::int64_t>(y / 3)) < 0.2) {
+    if (HashUnit(seed + 2, static_cast<std::int64_t>(x / 3), static_cast<std::int64_t>(y / 3)) <
+        0.2) {
       u[i] = 0.5;
       v[i] = 0.2 + 0.1 * random.Unit();
     }
@@ -64,7 +65,8 @@ std::vector<double> ReactAndSpread(Torus size, int steps, std::uint64_t seed) {
 // A skin of spots and worms.
 Tile Labyrinth(std::uint64_t seed) {
   const std::vector<double> skin = ReactAndSpread(kSize, 3500, seed);
-  const Noise tint(kSize, 34, 2, seed + 5);
+  const Noise tint(kSize, 13, 2, seed + 5);
+  const Noise scale(kSize, 7, 2, seed + 7);
   const Ramp cool{0x0d1030, 0x2c2273, 0x6a3fb5, 0xe08bd0, 0xfff0dc};
   const Ramp warm{0x0d1030, 0x153f7a, 0x1f8fb0, 0x8fe0b0, 0xfffbd0};
   return RenderTile(kSize, 1, [&](double x, double y) {
@@ -75,7 +77,7 @@ Tile Labyrinth(std::uint64_t seed) {
     };
     const double slope = (at(1, 1) - at(-1, -1)) * 1.6;
     const double grain = PixelGrain(seed + 6, kSize, x, y) - 0.5;
-    const double shade = 0.06 + 2.15 * at(0, 0) + slope + 0.22 * grain;
+    const double shade = 0.06 + 2.15 * at(0, 0) + slope + 0.16 * scale.At(x, y) + 0.30 * grain;
     return Mix(cool.At(shade), warm.At(shade), SmoothStep(-0.25, 0.25, tint.At(x, y)));
   });
 }
@@ -92,7 +94,8 @@ Tile Coral(std::uint64_t seed) {
     const Cells::Place place = polyps.At(x + 0.9 * bend.At(x, y), y + 0.9 * bend.At(y, x));
     const auto cell = static_cast<std::int64_t>(place.cell);
     const double rays = 7 + std::floor(6 * HashUnit(seed + 3, cell));
-    const double angle = RoughAngle(place.offset.y, place.offset.x) + 6.3 * HashUnit(seed + 4, cell);
+    const double angle =
+        RoughAngle(place.offset.y, place.offset.x) + 6.3 * HashUnit(seed + 4, cell);
     const double ray = 0.5 + 0.5 * ExactSin(rays * angle);
     const double mouth = SmoothStep(1.7, 0.7, place.toCentre);
     const double rim = SmoothStep(0.0, 1.5, place.toBorder);

@@ -78,12 +78,10 @@ Tile Pebbles(std::uint64_t seed) {
   const Noise bend(kSize, 8, 2, seed + 1);
   const Noise bend2(kSize, 8, 2, seed + 2);
   const Noise vein(kSize, 7, 3, seed + 3);
-  const Ramp rocks[] = {{0x1f2a33, 0x4b6472, 0x9db7c2, 0xe6f1f2},
-                        {0x2c1d1a, 0x7c4a3a, 0xc98a6b, 0xf4d6bd},
-                        {0x23262b, 0x5b6069, 0xa3a7ad, 0xeceef0},
-                        {0x2a2615, 0x78693e, 0xc2ae74, 0xf5ebc6},
-                        {0x14211f, 0x3c5c55, 0x84a99c, 0xdbefe4},
-                        {0x2a1521, 0x6e3f55, 0xb98398, 0xf0d3da}};
+  const Ramp rocks[] = {
+      {0x1f2a33, 0x4b6472, 0x9db7c2, 0xe6f1f2}, {0x2c1d1a, 0x7c4a3a, 0xc98a6b, 0xf4d6bd},
+      {0x23262b, 0x5b6069, 0xa3a7ad, 0xeceef0}, {0x2a2615, 0x78693e, 0xc2ae74, 0xf5ebc6},
+      {0x14211f, 0x3c5c55, 0x84a99c, 0xdbefe4}, {0x2a1521, 0x6e3f55, 0xb98398, 0xf0d3da}};
   return RenderTile(kSize, 3, [&](double x, double y) {
     const Cells::Place place = stones.At(x + 1.3 * bend.At(x, y), y + 1.3 * bend2.At(x, y));
     const auto cell = static_cast<std::int64_t>(place.cell);
@@ -95,8 +93,8 @@ Tile Pebbles(std::uint64_t seed) {
     double shade = 0.26 + 0.34 * HashUnit(seed + 5, cell) + light + 0.24 * streak +
                    0.26 * (PixelGrain(seed + 6, kSize, x, y) - 0.5);
     shade *= 0.12 + 0.88 * dome;
-    const double glint = SmoothStep(2.2, 0.6, std::abs(place.offset.x + 1.7) * 1.2 +
-                                                  std::abs(place.offset.y + 2.0) * 1.2);
+    const double glint = SmoothStep(
+        2.2, 0.6, std::abs(place.offset.x + 1.7) * 1.2 + std::abs(place.offset.y + 2.0) * 1.2);
     return rock.At(shade + 0.35 * glint * dome);
   });
 }

@@ -15,7 +15,9 @@ int Wrap(std::int64_t value, int period) {
   return static_cast<int>(rest < 0 ? rest + period : rest);
 }
 
-double Quintic(double t) { return t * t * t * (t * (t * 6 - 15) + 10); }
+double Quintic(double t) {
+  return t * t * t * (t * (t * 6 - 15) + 10);
+}
 
 }  // namespace
 

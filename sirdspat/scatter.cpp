@@ -17,7 +17,9 @@ Point Offset(Torus torus, Point from, double x, double y) {
   return {Around(x - from.x, torus.width), Around(y - from.y, torus.height)};
 }
 
-double Square(Point p) { return p.x * p.x + p.y * p.y; }
+double Square(Point p) {
+  return p.x * p.x + p.y * p.y;
+}
 
 }  // namespace
 
@@ -61,8 +63,7 @@ Cells::Place Cells::At(double x, double y) const {
   return place;
 }
 
-Stamps::Stamps(Torus torus, std::vector<Stamp> stamps)
-    : torus_(torus), stamps_(std::move(stamps)) {
+Stamps::Stamps(Torus torus, std::vector<Stamp> stamps) : torus_(torus), stamps_(std::move(stamps)) {
   for (std::size_t i = 0; i < stamps_.size(); ++i) stamps_[i].number = i;
 }
 

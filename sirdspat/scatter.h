@@ -25,10 +25,10 @@ class Cells {
   Cells(Torus torus, std::vector<Point> centres);
 
   struct Place {
-    std::size_t cell = 0;   // the nearest centre
-    double toCentre = 0;    // pixels
-    double toBorder = 0;    // pixels to the border with the nearest other cell
-    Point offset;           // from the centre
+    std::size_t cell = 0;  // the nearest centre
+    double toCentre = 0;   // pixels
+    double toBorder = 0;   // pixels to the border with the nearest other cell
+    Point offset;          // from the centre
   };
   Place At(double x, double y) const;
   std::size_t size() const { return centres_.size(); }
@@ -53,11 +53,11 @@ class Stamps {
   // The colour at (x, y): asks paint(stamp, u, v) of the topmost stamp first, and of the ones below
   // as long as nothing comes back; u and v are the stamp's own axes in units of its radius.
   template <class Paint>
-  Colour At(double x, double y, const Colour& ground, const Paint& paint) const {
+  Tint At(double x, double y, const Tint& ground, const Paint& paint) const {
     for (auto stamp = stamps_.rbegin(); stamp != stamps_.rend(); ++stamp) {
       const Point at = Own(*stamp, x, y);
       if (at.x * at.x + at.y * at.y > 1) continue;
-      if (const std::optional<Colour> colour = paint(*stamp, at.x, at.y)) return *colour;
+      if (const std::optional<Tint> colour = paint(*stamp, at.x, at.y)) return *colour;
     }
     return ground;
   }

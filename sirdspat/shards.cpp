@@ -27,7 +27,8 @@ Tile StainedGlass(std::uint64_t seed) {
   return RenderTile(kSize, 3, [&](double x, double y) {
     const Cells::Place place = panes.At(x, y);
     const auto cell = static_cast<std::int64_t>(place.cell);
-    const double pick = Fraction(HashUnit(seed + 4, cell) * 0.75 + 0.45 * hue.At(x * 0 + 7, 9) + 0.2);
+    const double pick =
+        Fraction(HashUnit(seed + 4, cell) * 0.75 + 0.45 * hue.At(x * 0 + 7, 9) + 0.2);
     const Ramp& pane = glass[static_cast<std::size_t>(pick * 6)];
     const double lead = SmoothStep(0.45, 1.0, place.toBorder);
     const double rim = SmoothStep(0.8, 2.6, place.toBorder);
@@ -65,16 +66,17 @@ Tile Terrazzo(std::uint64_t seed) {
     }
     const Cells::Place crumb = small.At(x, y);
     const auto little = static_cast<std::int64_t>(crumb.cell);
-    if (HashUnit(seed + 6, little) < 0.62 && crumb.toBorder > 0.5) return marble(7, little).At(shade);
+    if (HashUnit(seed + 6, little) < 0.62 && crumb.toBorder > 0.5)
+      return marble(7, little).At(shade);
     return ground.At(0.35 + 0.65 * grain);
   });
 }
 
 // Paper triangles thrown over each other.
 Tile Confetti(std::uint64_t seed) {
-  static constexpr std::array<std::uint32_t, 12> kPaper = {
-      0xf94144, 0xf3722c, 0xf8961e, 0xf9c74f, 0x90be6d, 0x43aa8b,
-      0x4d908e, 0x577590, 0x277da1, 0x5e548e, 0xbe95c4, 0xfdf0d5};
+  static constexpr std::array<std::uint32_t, 12> kPaper = {0xf94144, 0xf3722c, 0xf8961e, 0xf9c74f,
+                                                           0x90be6d, 0x43aa8b, 0x4d908e, 0x577590,
+                                                           0x277da1, 0x5e548e, 0xbe95c4, 0xfdf0d5};
   Random random(seed);
   std::vector<Stamps::Stamp> papers;
   for (int i = 0; i < 1500; ++i) {
@@ -85,17 +87,18 @@ Tile Confetti(std::uint64_t seed) {
   }
   const Stamps heap(kSize, std::move(papers));
   return RenderTile(kSize, 3, [&](double x, double y) {
-    return heap.At(x, y, Hex(0x1d2033),
-                   [&](const Stamps::Stamp& stamp, double u, double v) -> std::optional<Colour> {
-      const double inside =
-          std::min({u + 0.5, 0.5 - 0.5 * u + 0.866 * v, 0.5 - 0.5 * u - 0.866 * v});
-      if (inside < 0) return std::nullopt;
-      const auto number = static_cast<std::int64_t>(stamp.number);
-      const Colour paper = Hex(kPaper[static_cast<std::size_t>(HashUnit(seed + 1, number) * 12)]);
-      const double light = 0.66 + 0.5 * HashUnit(seed + 2, number) + 0.12 * u;
-      const double edge = 0.62 + 0.38 * SmoothStep(0.0, 0.13, inside);
-      return paper * (light * edge * (0.90 + 0.2 * PixelGrain(seed + 3, kSize, x, y)));
-    });
+    return heap.At(
+        x, y, Hex(0x1d2033),
+        [&](const Stamps::Stamp& stamp, double u, double v) -> std::optional<Tint> {
+          const double inside =
+              std::min({u + 0.5, 0.5 - 0.5 * u + 0.866 * v, 0.5 - 0.5 * u - 0.866 * v});
+          if (inside < 0) return std::nullopt;
+          const auto number = static_cast<std::int64_t>(stamp.number);
+          const Tint paper = Hex(kPaper[static_cast<std::size_t>(HashUnit(seed + 1, number) * 12)]);
+          const double light = 0.66 + 0.5 * HashUnit(seed + 2, number) + 0.12 * u;
+          const double edge = 0.62 + 0.38 * SmoothStep(0.0, 0.13, inside);
+          return paper * (light * edge * (0.90 + 0.2 * PixelGrain(seed + 3, kSize, x, y)));
+        });
   });
 }
 

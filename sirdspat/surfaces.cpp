@@ -52,9 +52,8 @@ Tile Tweed(std::uint64_t seed) {
     // Yarn changes its colour along its length, as homespun does.
     const auto length = [](std::int64_t along, int part) { return along / part; };
     const bool over = HashUnit(seed + 1, column, row) < 0.5;
-    const Colour yarn =
-        over ? wool(HashUnit(seed + 2, column, length(row + column % 5, 4) % 16))
-             : wool(HashUnit(seed + 3, row, length(column + row % 5, 4) % 18));
+    const Tint yarn = over ? wool(HashUnit(seed + 2, column, length(row + column % 5, 4) % 16))
+                           : wool(HashUnit(seed + 3, row, length(column + row % 5, 4) % 18));
     const double across = over ? Fraction(x / 2) : Fraction(y / 2);
     const double round = 0.72 + 0.5 * (1 - 4 * (across - 0.5) * (across - 0.5));
     const double fluff = 0.8 + 0.4 * PixelGrain(seed + 4, kCloth, x, y);
@@ -76,8 +75,8 @@ Tile Lagoon(std::uint64_t seed) {
     const double web = SmoothStep(1.9, 0.0, coarse.At(x + dx, y + dy).toBorder);
     const double veil = SmoothStep(1.6, 0.0, fine.At(x - dx, y + 0.6 * dy).toBorder);
     const double ripple = PixelGrain(seed + 5, kSize, x, y) - 0.5;
-    return water.At(0.24 + 0.20 * depth.At(x, y) + 0.42 * web * web + 0.26 * veil + 0.22 * web * veil +
-                    0.16 * ripple);
+    return water.At(0.24 + 0.20 * depth.At(x, y) + 0.42 * web * web + 0.26 * veil +
+                    0.22 * web * veil + 0.16 * ripple);
   });
 }
 

@@ -21,7 +21,7 @@ Tile RenderTile(Torus size, int samples, const Shader& colour) {
   tile.pixels.reserve(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height));
   for (int y = 0; y < size.height; ++y) {
     for (int x = 0; x < size.width; ++x) {
-      Colour sum;
+      Tint sum;
       for (int i = 0; i < samples * samples; ++i) {
         sum = sum + colour(x + (i % samples + 0.5) / samples, y + (i / samples + 0.5) / samples);
       }

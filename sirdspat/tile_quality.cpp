@@ -1,0 +1,126 @@
+#include "sirdspat/tile_quality.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <vector>
+
+namespace plenovia {
+
+namespace {
+
+constexpr int kNearest = 6;
+constexpr int kRowReach = 8;
+constexpr int kWindowWidth = 24;
+constexpr int kWindowHeight = 12;
+constexpr int kDetailSide = 8;
+
+// The colours with room to read beyond the right and lower edges without wrapping.
+class Field {
+ public:
+  explicit Field(const IndexedImage& tile)
+      : width(tile.width()), height(tile.height()), stride_(2 * width) {
+    values_.reserve(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(2 * height));
+    for (int y = 0; y < 2 * height; ++y) {
+      for (int x = 0; x < stride_; ++x) {
+        const Rgb colour =
+            tile.palette()[tile.Row(y % height)[static_cast<std::size_t>(x % width)]];
+        values_.push_back({static_cast<double>(colour.red), static_cast<double>(colour.green),
+                           static_cast<double>(colour.blue)});
+      }
+    }
+  }
+  // 0 <= x < 2 * width, 0 <= y < 2 * height.
+  const std::array<double, 3>& At(int x, int y) const {
+    return values_[static_cast<std::size_t>(y * stride_ + x)];
+  }
+
+  const int width;
+  const int height;
+
+ private:
+  int stride_;
+  std::vector<std::array<double, 3>> values_;
+};
+
+// Of the window at (x, y) with the one displaced by (dx, dy).
+double Correlation(const Field& field, int x, int y, int width, int height, int dx, int dy) {
+  std::array<double, 3> sumA{};
+  std::array<double, 3> sumB{};
+  double aa = 0;
+  double bb = 0;
+  double ab = 0;
+  for (int j = y; j < y + height; ++j) {
+    for (int i = x; i < x + width; ++i) {
+      const auto& a = field.At(i, j);
+      const auto& b = field.At(i + dx, j + dy);
+      for (std::size_t c = 0; c < 3; ++c) {
+        sumA[c] += a[c];
+        sumB[c] += b[c];
+        aa += a[c] * a[c];
+        bb += b[c] * b[c];
+        ab += a[c] * b[c];
+      }
+    }
+  }
+  const double n = static_cast<double>(width) * height;
+  for (std::size_t c = 0; c < 3; ++c) {
+    aa -= sumA[c] * sumA[c] / n;
+    bb -= sumB[c] * sumB[c] / n;
+    ab -= sumA[c] * sumB[c] / n;
+  }
+  // Two flat windows are alike.
+  return aa <= 0 || bb <= 0 ? 1 : ab / std::sqrt(aa * bb);
+}
+
+double Repeat(const Field& field) {
+  double most = -1;
+  for (int dy = 0; dy <= kRowReach; ++dy) {
+    for (int dx = 0; dx < field.width; ++dx) {
+      if (std::min(dx, field.width - dx) < kNearest) continue;
+      most = std::max(most, Correlation(field, 0, 0, field.width, field.height, dx, dy));
+    }
+  }
+  return most;
+}
+
+double LocalRepeat(const Field& field) {
+  double most = -1;
+  for (int y = 0; y < field.height; y += kWindowHeight / 2) {
+    for (int x = 0; x < field.width; x += kWindowWidth / 2) {
+      for (int dx = kNearest; dx <= field.width / 2; ++dx) {
+        if (x + dx + kWindowWidth > 2 * field.width) break;
+        most = std::max(most, Correlation(field, x, y, kWindowWidth, kWindowHeight, dx, 0));
+      }
+    }
+  }
+  return most;
+}
+
+double LeastDetail(const Field& field) {
+  double least = 255;
+  for (int y = 0; y < field.height; y += kDetailSide / 2) {
+    for (int x = 0; x < field.width; x += kDetailSide / 2) {
+      double steps = 0;
+      for (int j = y; j < y + kDetailSide; ++j) {
+        for (int i = x; i < x + kDetailSide; ++i) {
+          for (std::size_t c = 0; c < 3; ++c) {
+            steps += std::abs(field.At(i + 1, j)[c] - field.At(i, j)[c]);
+          }
+        }
+      }
+      least = std::min(least, steps / (3 * kDetailSide * kDetailSide));
+    }
+  }
+  return least;
+}
+
+}  // namespace
+
+TileQuality MeasureTile(const IndexedImage& tile) {
+  const Field field(tile);
+  return {Repeat(field), LocalRepeat(field), LeastDetail(field)};
+}
+
+}  // namespace plenovia
