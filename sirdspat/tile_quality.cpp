@@ -1,7 +1,6 @@
 #include "sirdspat/tile_quality.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstddef>
 #include <vector>
@@ -21,19 +20,19 @@ class Field {
  public:
   explicit Field(const IndexedImage& tile)
       : width(tile.width()), height(tile.height()), stride_(2 * width) {
-    values_.reserve(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(2 * height));
+    values_.reserve(3 * static_cast<std::size_t>(stride_) * static_cast<std::size_t>(2 * height));
     for (int y = 0; y < 2 * height; ++y) {
       for (int x = 0; x < stride_; ++x) {
         const Rgb colour =
             tile.palette()[tile.Row(y % height)[static_cast<std::size_t>(x % width)]];
-        values_.push_back({static_cast<double>(colour.red), static_cast<double>(colour.green),
-                           static_cast<double>(colour.blue)});
+        for (const int channel : {colour.red, colour.green, colour.blue})
+          values_.push_back(channel);
       }
     }
   }
-  // 0 <= x < 2 * width, 0 <= y < 2 * height.
-  const std::array<double, 3>& At(int x, int y) const {
-    return values_[static_cast<std::size_t>(y * stride_ + x)];
+  // Red, green and blue from (x, y) on to the right; 0 <= x < 2 * width, 0 <= y < 2 * height.
+  const double* At(int x, int y) const {
+    return values_.data() + 3 * static_cast<std::ptrdiff_t>(y * stride_ + x);
   }
 
   const int width;
@@ -41,21 +40,21 @@ class Field {
 
  private:
   int stride_;
-  std::vector<std::array<double, 3>> values_;
+  std::vector<double> values_;
 };
 
 // Of the window at (x, y) with the one displaced by (dx, dy).
 double Correlation(const Field& field, int x, int y, int width, int height, int dx, int dy) {
-  std::array<double, 3> sumA{};
-  std::array<double, 3> sumB{};
+  double sumA[3] = {};
+  double sumB[3] = {};
   double aa = 0;
   double bb = 0;
   double ab = 0;
   for (int j = y; j < y + height; ++j) {
-    for (int i = x; i < x + width; ++i) {
-      const auto& a = field.At(i, j);
-      const auto& b = field.At(i + dx, j + dy);
-      for (std::size_t c = 0; c < 3; ++c) {
+    const double* a = field.At(x, j);
+    const double* b = field.At(x + dx, j + dy);
+    for (const double* end = a + 3 * width; a != end; a += 3, b += 3) {
+      for (int c = 0; c < 3; ++c) {
         sumA[c] += a[c];
         sumB[c] += b[c];
         aa += a[c] * a[c];
@@ -65,7 +64,7 @@ double Correlation(const Field& field, int x, int y, int width, int height, int 
     }
   }
   const double n = static_cast<double>(width) * height;
-  for (std::size_t c = 0; c < 3; ++c) {
+  for (int c = 0; c < 3; ++c) {
     aa -= sumA[c] * sumA[c] / n;
     bb -= sumB[c] * sumB[c] / n;
     ab -= sumA[c] * sumB[c] / n;
@@ -77,8 +76,7 @@ double Correlation(const Field& field, int x, int y, int width, int height, int 
 double Repeat(const Field& field) {
   double most = -1;
   for (int dy = 0; dy <= kRowReach; ++dy) {
-    for (int dx = 0; dx < field.width; ++dx) {
-      if (std::min(dx, field.width - dx) < kNearest) continue;
+    for (int dx = kNearest; dx <= field.width - kNearest; ++dx) {
       most = std::max(most, Correlation(field, 0, 0, field.width, field.height, dx, dy));
     }
   }
@@ -104,11 +102,8 @@ double LeastDetail(const Field& field) {
     for (int x = 0; x < field.width; x += kDetailSide / 2) {
       double steps = 0;
       for (int j = y; j < y + kDetailSide; ++j) {
-        for (int i = x; i < x + kDetailSide; ++i) {
-          for (std::size_t c = 0; c < 3; ++c) {
-            steps += std::abs(field.At(i + 1, j)[c] - field.At(i, j)[c]);
-          }
-        }
+        const double* row = field.At(x, j);
+        for (int i = 0; i < 3 * kDetailSide; ++i) steps += std::abs(row[i + 3] - row[i]);
       }
       least = std::min(least, steps / (3 * kDetailSide * kDetailSide));
     }
