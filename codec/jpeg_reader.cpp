@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::uint64_t kMostMemory = std::uint64_t{768} << 20;
 constexpr int kMostScans = 200;
-constexpr std::uint64_t kMostBlockVisits = std::uint64_t{1} << 27;  // blocks times scans
+constexpr std::uint64_t kMostBlockVisits = std::uint64_t{1} << 26;  // blocks times scans
 constexpr std::size_t kBlockBytes = DCTSIZE2 * sizeof(JCOEF);
 
 std::uint64_t Blocks(const jpeg_component_info& component) {

@@ -7,7 +7,9 @@ namespace plenovia {
 namespace {
 
 constexpr std::uint64_t kMostExpansion = 1032;  // of deflate: 258 bytes for two bits
-constexpr std::uint64_t kMostRawBytes = std::uint64_t{1} << 31;
+// What a few seconds suffice for; a file that brings its bytes along may have more.
+constexpr std::uint64_t kMostRawBytes = std::uint64_t{3} << 29;
+constexpr std::uint64_t kMostRawBytesPerByte = 16;
 
 }  // namespace
 
@@ -60,8 +62,11 @@ Result<void> PngReader::CheckLimits() const {
   if (raw / kMostExpansion > fileSize_) {
     return Failure(ErrorCode::kCorrupt, "the file is too short for its size in pixels");
   }
-  if (raw > kMostRawBytes) {
-    return Failure(ErrorCode::kTooLarge, "the PNG picture has too many bytes of pixels");
+  const bool trueColour =
+      (png_get_color_type(png_, info_) & ~PNG_COLOR_MASK_ALPHA) == PNG_COLOR_TYPE_RGB;
+  const std::uint64_t work = trueColour ? 2 * raw : raw;  // it is read twice
+  if (work > kMostRawBytes + kMostRawBytesPerByte * fileSize_) {
+    return Failure(ErrorCode::kTooLarge, "the PNG file expands to too many bytes of pixels");
   }
   return {};
 }
