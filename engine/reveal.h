@@ -4,26 +4,26 @@
 #include <cstdint>
 #include <vector>
 
+#include "engine/match_cost.h"
 #include "engine/run_monitor.h"
-#include "engine/scan_methods.h"
 #include "engine/sirds_settings.h"
 #include "platform/indexed_image.h"
 #include "platform/result.h"
 
 namespace plenovia {
 
-// Which column a matching pair of pixels (x - s, x) speaks for.
-enum class RevealAnchor {
-  kRight,   // x: the column whose depth made the pair in the left-to-right and McMahon methods
-  kCentre,  // the middle between the two: the column in the Feucht method
-};
+// The anchor that fits the pictures of a scan method.
+inline RevealAnchor AnchorOf(std::int32_t scanMethod) {
+  return scanMethod == kFeucht ? RevealAnchor::kCentre : RevealAnchor::kRight;
+}
 
 struct RevealOptions {
   RevealAnchor anchor = RevealAnchor::kRight;
-  // The separations tried, in pixels, both included. 0 for either: found from the picture.
+  // The separations tried, in pixels, both included. With 0 for either, both
+  // are found from the picture.
   int smallest = 0;
   int largest = 0;
-  int threads = 1;
+  int threads = 1;  // the result is the same for any number
 };
 
 // One entry a pixel, rows top down.
@@ -36,8 +36,11 @@ struct RevealedDepth {
   std::vector<std::uint8_t> certainty;    // 0 (a guess) to 255 (beyond doubt)
 };
 
-// Finds for each pixel the separation at which its row best repeats itself. kInvalid when the
-// picture is too narrow for the range, kCancelled when the monitor stopped it.
+// Finds for each pixel the separation at which its row, together with its neighbours, best repeats
+// itself; of several that are equally good, the smallest. kInvalid when the picture is empty or
+// the range is upside down or holds more than 1024 separations, kTooLarge when the memory does not
+// suffice, kCancelled when the monitor stopped it. The monitor hears the start, steps of at least
+// 10 percent and, whatever comes of it, the end.
 [[nodiscard]] Result<RevealedDepth> Reveal(const IndexedImage& picture,
                                            const RevealOptions& options, RunMonitor& monitor);
 

@@ -1,0 +1,104 @@
+#include "engine/reveal.h"
+
+#include <algorithm>
+#include <atomic>
+#include <new>
+#include <thread>
+
+#include "engine/reveal_strip.h"
+#include "engine/separation_range.h"
+#include "platform/limits.h"
+
+namespace plenovia {
+
+namespace {
+
+constexpr int kMostSeparations = 1024;
+
+// The height of the strips of a picture: as large as some megabytes of path costs allow.
+int StripRows(const MatchCost& cost) {
+  constexpr std::size_t kBytes = std::size_t{12} << 20;
+  const std::size_t row = static_cast<std::size_t>(cost.width()) * cost.lanes();
+  return std::min(static_cast<int>(std::clamp<std::size_t>(kBytes / row, 4, 64)), cost.height());
+}
+
+// Searches all strips. Returns false when the monitor stopped it.
+bool SearchStrips(const MatchCost& cost, int threads, RunMonitor& monitor, RevealedDepth& result) {
+  const int rows = StripRows(cost);
+  const int strips = (cost.height() + rows - 1) / rows;
+  const int workers = std::clamp(threads, 1, strips);
+  std::vector<StripSearch> searches;
+  searches.reserve(static_cast<std::size_t>(workers));
+  for (int i = 0; i < workers; ++i) searches.emplace_back(cost, rows);
+
+  std::atomic<int> next{0};
+  std::atomic<int> finished{0};
+  std::atomic<bool> stop{false};
+  const auto work = [&](StripSearch& search, const auto& after) {
+    while (!stop) {
+      const int first = next.fetch_add(1) * rows;
+      if (first >= cost.height()) return;
+      search.Run(first, std::min(cost.height(), first + rows), result.separation, result.certainty);
+      ++finished;
+      after();
+    }
+  };
+  std::vector<std::jthread> pool;
+  for (std::size_t i = 1; i < searches.size(); ++i) {
+    pool.emplace_back([&work, &search = searches[i]] { work(search, [] {}); });
+  }
+  int reported = 0;
+  work(searches[0], [&] {
+    if (monitor.StopRequested()) stop = true;
+    const int done = finished;
+    if ((done - reported) * 10 < strips) return;
+    reported = done;
+    monitor.OnProgress(ProgressPhase::kStep, {"Revealing Depth", done, strips});
+  });
+  pool.clear();
+  return !stop;
+}
+
+Result<RevealedDepth> Search(const IndexedImage& picture, const RevealOptions& options,
+                             RunMonitor& monitor) {
+  if (picture.empty()) return Failure(ErrorCode::kInvalid, "the picture is empty");
+  SeparationRange range{options.smallest, options.largest};
+  if (range.smallest == 0 || range.largest == 0) range = FindSeparationRange(picture);
+  if (range.smallest < 1 || range.largest < range.smallest || range.largest > kMaxSide ||
+      range.count() > kMostSeparations) {
+    return Failure(ErrorCode::kInvalid, "the range of separations makes no sense");
+  }
+  RevealedDepth result{.width = picture.width(),
+                       .height = picture.height(),
+                       .smallest = range.smallest,
+                       .largest = range.largest,
+                       .separation = std::vector<std::uint16_t>(picture.pixels().size()),
+                       .certainty = std::vector<std::uint8_t>(picture.pixels().size())};
+  const MatchCost cost(picture, range, options.anchor);
+  if (!SearchStrips(cost, options.threads, monitor, result)) {
+    return Failure(ErrorCode::kCancelled, "the search for depth was stopped");
+  }
+  return result;
+}
+
+Result<RevealedDepth> SearchInMemory(const IndexedImage& picture, const RevealOptions& options,
+                                     RunMonitor& monitor) {
+  try {
+    return Search(picture, options, monitor);
+  } catch (const std::bad_alloc&) {
+    return Failure(ErrorCode::kTooLarge, "there is not enough memory");
+  }
+}
+
+}  // namespace
+
+Result<RevealedDepth> Reveal(const IndexedImage& picture, const RevealOptions& options,
+                             RunMonitor& monitor) {
+  monitor.OnProgress(ProgressPhase::kStart, {});
+  monitor.OnProgress(ProgressPhase::kFirstStep, {"Revealing Depth", 0, 100});
+  Result<RevealedDepth> result = SearchInMemory(picture, options, monitor);
+  monitor.OnProgress(ProgressPhase::kEnd, {});
+  return result;
+}
+
+}  // namespace plenovia

@@ -1,0 +1,86 @@
+#include "engine/separation_range.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace plenovia {
+
+namespace {
+
+constexpr int kWidest = 1024;
+constexpr int kSampleRows = 48;
+constexpr std::size_t kPiece = 12;  // pixels of a row that must repeat together
+
+// For each separation of `cost`, how many pieces of sampled rows repeat at it. Pieces that repeat
+// nearly everywhere have no texture and do not count.
+std::vector<int> CountRepeats(const MatchCost& cost) {
+  constexpr int kSame = static_cast<int>(kPiece) * MatchCost::kChanceCost / 8;
+  const auto count = static_cast<std::size_t>(cost.range().count());
+  const auto width = static_cast<std::size_t>(cost.width());
+  std::vector<int> repeats(count);
+  std::vector<int> sums(count);
+  std::vector<std::uint8_t> costs(width * cost.lanes());
+  MatchCost::Scratch scratch;
+  const int rows = std::min(kSampleRows, cost.height());
+  for (int i = 0; i < rows; ++i) {
+    const auto y =
+        static_cast<int>((2 * i + 1) * static_cast<std::int64_t>(cost.height()) / (2 * rows));
+    cost.Row(y, 0, scratch, costs);
+    for (std::size_t x = 0; x + kPiece <= width; x += kPiece) {
+      std::fill(sums.begin(), sums.end(), 0);
+      for (std::size_t j = 0; j < kPiece; ++j) {
+        const std::uint8_t* pixel = costs.data() + (x + j) * cost.lanes();
+        for (std::size_t s = 0; s < count; ++s) sums[s] += pixel[s];
+      }
+      const auto pairs = static_cast<std::size_t>(cost.PairsAt(static_cast<int>(x)));
+      const auto end = sums.begin() + static_cast<std::ptrdiff_t>(pairs);
+      const auto same = std::count_if(sums.begin(), end, [](int sum) { return sum <= kSame; });
+      if (static_cast<std::size_t>(same) * 4 > pairs + 4) continue;
+      for (std::size_t s = 0; s < pairs; ++s) repeats[s] += sums[s] <= kSame;
+    }
+  }
+  return repeats;
+}
+
+}  // namespace
+
+SeparationRange FindSeparationRange(const IndexedImage& picture) {
+  const SeparationRange widest{1, std::clamp(picture.width() / 2, 1, kWidest)};
+  const MatchCost cost(picture, widest, RevealAnchor::kRight);
+  const std::vector<int> repeats = CountRepeats(cost);
+  const auto at = [&](int s) {
+    return s >= 1 && s <= widest.largest ? repeats[static_cast<std::size_t>(s - 1)] : 0;
+  };
+
+  std::vector<int> sorted = repeats;
+  const auto middle = sorted.begin() + static_cast<std::ptrdiff_t>(sorted.size() / 2);
+  std::nth_element(sorted.begin(), middle, sorted.end());
+  const int chance = *middle;
+
+  // Neighbouring pixels look alike in many pictures: begin where that has faded.
+  int first = 1;
+  while (first < widest.largest && at(first + 1) < at(first)) ++first;
+  int strongest = first;
+  for (int s = first; s <= widest.largest; ++s) {
+    if (at(s) > at(strongest)) strongest = s;
+  }
+  if (at(strongest) < 2 * chance + 4) return widest;
+
+  const int least = chance + std::max(2, (at(strongest) - chance) / 25);
+  // What repeats at a separation repeats at its double too, but less often.
+  const auto isDouble = [&](int s) {
+    return 2 * std::max({at(s / 2 - 1), at(s / 2), at((s + 1) / 2)}) >= at(s);
+  };
+  SeparationRange range{strongest, strongest};
+  for (int s = strongest + 1; s <= strongest * 9 / 4; ++s) {
+    if (at(s) >= least && !isDouble(s)) range.largest = s;
+  }
+  // Near parts are often too small or too steep to leave a trace in the count.
+  range.smallest = std::max(1, strongest * 9 / 25 - 1);
+  range.largest = std::min(widest.largest, range.largest + 3);
+  return range;
+}
+
+}  // namespace plenovia
