@@ -84,6 +84,7 @@ const Wrong kUsage[] = {
      2,
      {"--width"}},
     {"NoSuchFigure", {"make", "figure:9999", "-o", "@/o.png"}, 2, {"figure:9999"}},
+    {"NoSuchPattern", {"make", "@/scene.bmp", "-o", "@/o.png", "--pattern", "999"}, 2, {"999"}},
     {"NoSuchTitle", {"depth", "figure:qqq", "-o", "@/o.png"}, 2, {"figure:qqq"}},
 };
 INSTANTIATE_TEST_SUITE_P(Usage, Errors, testing::ValuesIn(kUsage),

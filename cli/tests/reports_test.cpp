@@ -86,6 +86,20 @@ TEST_F(Reports, ListsTheFigures) {
   }
 }
 
+TEST_F(Reports, ListsThePatternsThatMakeTakes) {
+  std::istringstream lines(Sirds({"patterns"}).out);
+  int number = -1;
+  int count = 0;
+  for (std::string file, size; lines >> number >> file >> size; ++count) {
+    EXPECT_EQ(number, count);
+    EXPECT_EQ(file, (count < 10 ? "pat0" : "pat") + std::to_string(count) + ".gif");
+    EXPECT_NE(size.find('x'), std::string::npos);
+  }
+  EXPECT_GE(count, 20);
+  EXPECT_EQ(Sirds({"make", scene_, "-o", out_, "--pattern", std::to_string(count - 1)}).status, 0);
+  EXPECT_EQ(Sirds({"make", scene_, "-o", out_, "--pattern", std::to_string(count)}).status, 2);
+}
+
 TEST_F(Reports, TellsWhatAFileIs) {
   EXPECT_EQ(Sirds({"info", scene_}).out, "format: BMP\nsize: 300x150\ncolours: " +
                                              std::to_string(picture_.palette().size()) + "\n");
