@@ -14,7 +14,7 @@ if ! { cmake --preset headless -DPLENOVIA_TESTS=OFF && cmake --build --preset he
   exit 1
 fi
 
-sirds=build/headless/cli/sirds
+sirds=build/headless/bin/sirds
 sample=samples/island.png
 result=build/sample-stereogram.png
 "$sirds" make "$sample" -o "$result"
