@@ -17,7 +17,7 @@ constexpr int kMostSeparations = 1024;
 
 // The height of the strips of a picture: as large as some megabytes of path costs allow.
 int StripRows(const MatchCost& cost) {
-  constexpr std::size_t kBytes = std::size_t{12} << 20;
+  constexpr std::size_t kBytes = std::size_t{20} << 20;
   const std::size_t row = static_cast<std::size_t>(cost.width()) * cost.lanes();
   return std::min(static_cast<int>(std::clamp<std::size_t>(kBytes / row, 4, 64)), cost.height());
 }
