@@ -43,6 +43,7 @@ ExitStatus Run(int argc, char** argv) {
   Task task;
   AddMakeCommand(program, task);
   AddDepthCommand(program, task);
+  AddRevealCommand(program, task);
   AddFiguresCommand(program, task);
   AddPatternsCommand(program, task);
   AddInfoCommand(program, task);

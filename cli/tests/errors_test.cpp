@@ -84,8 +84,8 @@ const Wrong kUsage[] = {
      2,
      {"--width"}},
     {"NoSuchFigure", {"make", "figure:9999", "-o", "@/o.png"}, 2, {"figure:9999"}},
-    {"NoSuchPattern", {"make", "@/scene.bmp", "-o", "@/o.png", "--pattern", "999"}, 2, {"999"}},
     {"NoSuchTitle", {"depth", "figure:qqq", "-o", "@/o.png"}, 2, {"figure:qqq"}},
+    {"NoSuchPattern", {"make", "@/scene.bmp", "-o", "@/o.png", "--pattern", "999"}, 2, {"999"}},
 };
 INSTANTIATE_TEST_SUITE_P(Usage, Errors, testing::ValuesIn(kUsage),
                          [](const auto& test) { return std::string(test.param.name); });
@@ -99,6 +99,7 @@ const Wrong kFiles[] = {
     {"Cut", {"make", "@/cut.bmp", "-o", "@/old.png"}, 1, {"@/cut.bmp: "}},
     {"CutMap", {"make", "@/cut.rds", "-o", "@/old.png"}, 1, {"@/cut.rds: "}},
     {"Text", {"depth", "@/text.png", "-o", "@/out.pgm"}, 1, {"@/text.png: "}},
+    {"Lying", {"reveal", "@/huge.bmp", "-o", "@/out.png"}, 1, {"@/huge.bmp: "}},
     {"Pattern",
      {"make", "@/scene.bmp", "-o", "@/old.png", "--pattern", "@/text.png"},
      1,
@@ -117,6 +118,7 @@ const Wrong kFiles[] = {
      1,
      {"@/no/out.png: "}},
     {"LineBreakInName", {"info", "no\nsuch\nfile"}, 1, {"no?such?file"}},
+    {"MapAsStereogram", {"reveal", "@/map.rds", "-o", "@/out.png"}, 1, {"@/map.rds: "}},
 };
 INSTANTIATE_TEST_SUITE_P(Files, Errors, testing::ValuesIn(kFiles),
                          [](const auto& test) { return std::string(test.param.name); });

@@ -18,7 +18,7 @@ std::string Manual() {
 
 TEST(Help, OfEachCommandIsInTheManualToo) {
   const std::string manual = Manual();
-  for (const std::string command : {"make", "depth", "figures", "patterns", "info"}) {
+  for (const std::string command : {"make", "depth", "reveal", "figures", "patterns", "info"}) {
     const Finished run = Sirds({command, "--help"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.err, "");
@@ -38,7 +38,7 @@ TEST(Help, OfEachCommandIsInTheManualToo) {
 TEST(Help, OfTheProgramNamesItsCommands) {
   const Finished run = Sirds({"--help"});
   EXPECT_EQ(run.status, 0);
-  for (const std::string word : {"make", "depth", "figures", "patterns", "info"}) {
+  for (const std::string word : {"make", "depth", "reveal", "figures", "patterns", "info"}) {
     EXPECT_NE(run.out.find("\n  " + word + " "), std::string::npos) << word;
   }
   EXPECT_TRUE(Sirds({"--version"}).out.starts_with("sirds "));

@@ -64,6 +64,34 @@ TEST_F(Reports, DepthOfAFigureIsWhatTheLibraryGives) {
   }
 }
 
+TEST_F(Reports, RevealFindsTheLevelsThatWereHidden) {
+  ASSERT_EQ(Sirds({"make", scene_, "-o", out_, "--gap", "80", "--pattern", tile_}).status, 0);
+  const Finished run = Sirds({"reveal", out_, "-o", Path("found.png"), "--gap", "80"});
+  ASSERT_EQ(run.status, 0) << run.err;
+  double share = 0;
+  ASSERT_EQ(std::sscanf(run.out.c_str(), "certain: %lf %%\n", &share), 1) << run.out;
+  EXPECT_GT(share, 80);
+  EXPECT_LE(share, 100);
+
+  // A picture lies half a gap to the right in its stereogram; steps of one level are too fine to
+  // be seen at this gap.
+  const IndexedImage found = Read(Path("found.png"));
+  int near = 0;
+  int all = 0;
+  for (int y = 0; y < found.height(); ++y) {
+    for (int x = 90; x < found.width(); ++x) {
+      const int level = picture_.Row(y)[static_cast<std::size_t>(x - 40)];
+      near += std::abs(found.Row(y)[static_cast<std::size_t>(x)] - level) <= 3;
+      ++all;
+    }
+  }
+  EXPECT_GT(near, all * 8 / 10);
+
+  ASSERT_EQ(Sirds({"reveal", out_, "-o", Path("seen.pgm")}).status, 0);
+  const std::string seen = Contents("seen.pgm");
+  EXPECT_NE(seen.find('\xff'), std::string::npos);  // the nearest is white, whatever its level
+}
+
 TEST_F(Reports, ListsTheFigures) {
   const Finished run = Sirds({"figures"});
   EXPECT_EQ(run.status, 0);

@@ -1,0 +1,155 @@
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstdio>
+#include <memory>
+#include <numeric>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "cli/commands.h"
+#include "cli/options.h"
+#include "cli/output.h"
+#include "cli/source.h"
+#include "cli/terminal_monitor.h"
+#include "engine/reveal.h"
+#include "engine/separation.h"
+
+namespace plenovia {
+
+namespace {
+
+constexpr int kCertain = 128;  // half way between a guess and beyond doubt
+
+struct RevealCommandOptions {
+  std::string picture;
+  std::string out;
+  TSirdsSettings settings;
+  ScanOptions scan;
+  RunOptions run;
+  bool Levels() const { return FirstGiven(scan.All()) != nullptr; }
+};
+
+// Gray by separation.
+using Grays = std::vector<std::uint8_t>;
+
+// The levels that the scan method needs for each separation.
+Grays LevelGrays(const RevealedDepth& depth, const TSirdsSettings& settings) {
+  Grays grays(static_cast<std::size_t>(depth.largest) + 1);
+  for (int s = depth.smallest; s <= depth.largest; ++s) {
+    grays[static_cast<std::size_t>(s)] = static_cast<std::uint8_t>(
+        LevelFromSeparation(s, settings, SourceKind::kImage, depth.width));
+  }
+  return grays;
+}
+
+// The separations that occur stretched over all grays, the smallest, which is the nearest, to
+// white. `counts` has the number of pixels of each; a hundredth may lie beyond either end.
+Grays StretchedGrays(const RevealedDepth& depth, const std::vector<std::size_t>& counts) {
+  const auto spare = std::accumulate(counts.begin(), counts.end(), std::size_t{0}) / 100;
+  int low = depth.smallest;
+  int high = depth.largest;
+  std::size_t below = 0;
+  std::size_t above = 0;
+  while (low < high && (below += counts[static_cast<std::size_t>(low)]) <= spare) ++low;
+  while (high > low && (above += counts[static_cast<std::size_t>(high)]) <= spare) --high;
+  Grays grays(counts.size());
+  const int range = std::max(1, high - low);
+  for (int s = 1; s <= depth.largest; ++s) {
+    grays[static_cast<std::size_t>(s)] =
+        static_cast<std::uint8_t>(std::clamp((high - s) * 255 / range, 0, 255));
+  }
+  return grays;
+}
+
+// The columns whose pairs lie inside the picture for all separations that were tried; what is found
+// in the margins beside them is worth little.
+struct Columns {
+  std::size_t begin = 0;
+  std::size_t end = 0;
+};
+
+Columns ColumnsInside(const RevealedDepth& depth, RevealAnchor anchor) {
+  const bool centre = anchor == RevealAnchor::kCentre;
+  const int begin = centre ? (depth.largest + 1) / 2 : depth.largest;
+  const int end = centre ? depth.width - begin : depth.width;
+  if (begin >= end) return {0, static_cast<std::size_t>(depth.width)};
+  return {static_cast<std::size_t>(begin), static_cast<std::size_t>(end)};
+}
+
+// What the user sees and is told of a search.
+struct Finding {
+  IndexedImage picture;  // black in the margins
+  double certain = 0;    // share of the pixels inside
+};
+
+Result<Finding> Draw(const RevealedDepth& depth, const RevealCommandOptions& options,
+                     const Columns& inside) {
+  auto picture = IndexedImage::Create(depth.width, depth.height, Palette::Grays());
+  if (!picture) return tl::unexpected(picture.error());
+  const auto forEachInside = [&](const auto& visit) {
+    const auto width = static_cast<std::size_t>(depth.width);
+    for (std::size_t row = 0; row < depth.separation.size(); row += width) {
+      for (std::size_t x = inside.begin; x < inside.end; ++x) visit(row + x);
+    }
+  };
+  std::vector<std::size_t> counts(static_cast<std::size_t>(depth.largest) + 1);
+  forEachInside([&](std::size_t at) {
+    if (depth.certainty[at] >= kCertain) ++counts[depth.separation[at]];
+  });
+  const Grays grays =
+      options.Levels() ? LevelGrays(depth, options.settings) : StretchedGrays(depth, counts);
+  picture->Fill(0);
+  forEachInside([&](std::size_t at) { picture->pixels()[at] = grays[depth.separation[at]]; });
+  const auto certain = std::accumulate(counts.begin(), counts.end(), std::size_t{0});
+  const auto pixels = (inside.end - inside.begin) * static_cast<std::size_t>(depth.height);
+  return Finding{std::move(*picture), static_cast<double>(certain) / static_cast<double>(pixels)};
+}
+
+std::string CertainLine(double share) {
+  std::array<char, 40> line{};
+  std::snprintf(line.data(), line.size(), "certain: %.1f %%\n", 100.0 * share);
+  return line.data();
+}
+
+Outcome<void> RevealDepth(const RevealCommandOptions& options) {
+  if (auto range = CheckDepthRange(options.settings); !range) return range;
+  const auto picture = ReadPicture(options.picture);
+  if (!picture) return tl::unexpected(picture.error());
+  TerminalMonitor monitor(options.run.quiet);
+  RevealOptions search;
+  search.anchor = AnchorOf(options.settings.scanMethod);
+  search.threads = options.run.Threads();
+  const auto depth = Reveal(*picture, search, monitor);
+  if (!depth) return Failed(options.picture, depth.error());
+  const auto finding = Draw(*depth, options, ColumnsInside(*depth, search.anchor));
+  if (!finding) return Failed(options.out, finding.error());
+  return WriteOutput(options.out, finding->picture).and_then([&] {
+    return Print(CertainLine(finding->certain));
+  });
+}
+
+}  // namespace
+
+void AddRevealCommand(CLI::App& program, Task& task) {
+  CLI::App* command =
+      program.add_subcommand("reveal", "Find the depth in a stereogram, ours or anyone's");
+  auto options = std::make_shared<RevealCommandOptions>();
+  AddOperand(*command, "PICTURE", options->picture, "A stereogram (BMP, PCX, GIF, JPEG or PNG)");
+  AddOutput(*command, options->out, OutputKind::kGray);
+  options->scan = AddScanOptions(*command, options->settings);
+  AddRunOptions(*command, options->run);
+  command->footer(
+      "Prints how many of the pixels have a depth that is certain. The result is bright where\n"
+      "the stereogram is near, with the depths that occur stretched over all grays. With --scan,\n"
+      "--gap, --zmin or --zmax its grays are the levels of the picture that the stereogram was\n"
+      "made of with these parameters, the others being at their defaults. Margins in which the\n"
+      "pattern does not repeat yet have no depth: they are black and do not count. Repeats of\n"
+      "up to 1024 pixels are found.\n\n"
+      "Example: sirds reveal scene-3d.png -o found.png");
+  command->callback([&task, options] { task = [options] { return RevealDepth(*options); }; });
+}
+
+}  // namespace plenovia
