@@ -1,0 +1,51 @@
+// make_samples FOLDER: writes the depth pictures and depth maps that ship.
+#include <cstdio>
+#include <filesystem>
+
+#include "codec/jpeg.h"
+#include "codec/png.h"
+#include "depthmap/depth_map_file.h"
+#include "platform/file_io.h"
+#include "samples/scenes.h"
+
+namespace plenovia {
+
+namespace {
+
+namespace fs = std::filesystem;
+using Encoder = Result<EncodedPicture> (*)(const IndexedImage&);
+
+Result<void> WritePicture(const Result<IndexedImage>& picture, Encoder encode,
+                          const fs::path& path) {
+  if (!picture) return tl::unexpected(picture.error());
+  const Result<EncodedPicture> file = encode(*picture);
+  if (!file) return tl::unexpected(file.error());
+  return WriteFile(path, file->pieces());
+}
+
+Result<void> WriteMap(TDepthList list, const fs::path& path) {
+  return WriteDepthMap(list, path);
+}
+
+Result<void> MakeSamples(const fs::path& folder) {
+  return WritePicture(Island(), EncodePng, folder / "island.png")
+      .and_then([&] { return WritePicture(StillLife(), EncodePng, folder / "still-life.png"); })
+      .and_then([&] { return WritePicture(Shark(), EncodePng, folder / "shark.png"); })
+      .and_then([&] { return WritePicture(ChessEndgame(), EncodeJpeg, folder / "chess.jpg"); })
+      .and_then([&] { return WriteMap(House(), folder / "house.rds"); })
+      .and_then([&] { return WriteMap(SailingBoat(), folder / "sailing-boat.rds"); });
+}
+
+}  // namespace
+
+}  // namespace plenovia
+
+int main(int count, char** words) {
+  if (count != 2) {
+    std::fprintf(stderr, "usage: make_samples FOLDER\n");
+    return 2;
+  }
+  const plenovia::Result<void> made = plenovia::MakeSamples(words[1]);
+  if (!made) std::fprintf(stderr, "make_samples: %s\n", made.error().message.c_str());
+  return made ? 0 : 1;
+}
