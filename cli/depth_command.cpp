@@ -60,7 +60,8 @@ Result<IndexedImage> DepthPicture(const Source& source, const DepthOptions& opti
   const auto depth = MakeDepthSource(source, width, height, options.settings);
   TerminalMonitor monitor(options.run.quiet);
   const auto makeWorker = [&]() -> RowWorker {
-    auto levels = std::make_shared<std::vector<std::int32_t>>(static_cast<std::size_t>(width));
+    auto levels =
+        std::make_shared<std::vector<std::int32_t>>(static_cast<std::size_t>(picture->width()));
     return [&, levels](int scanLine) {
       depth->BuildRow(scanLine, *levels);
       std::transform(
