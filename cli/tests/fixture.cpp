@@ -23,9 +23,9 @@ IndexedImage DepthPicture() {
   for (Rgb& colour : colours) colour = {random.Byte(), random.Byte(), random.Byte()};
   IndexedImage picture = IndexedImage::Create(300, 150, Palette(colours)).value();
   for (int y = 0; y < picture.height(); ++y) {
-    const auto row = picture.Row(y);
-    for (std::size_t x = 0; x < row.size(); ++x) {
-      row[x] = static_cast<std::uint8_t>(x < 180 ? x / 6 : 50 - y / 10);
+    for (int x = 0; x < picture.width(); ++x) {
+      const int level = x < 180 ? x / 6 : 50 - y / 10;
+      picture.Row(y)[static_cast<std::size_t>(x)] = static_cast<std::uint8_t>(level);
     }
   }
   return picture;
