@@ -75,8 +75,8 @@ Palette HeightTints() {
     }
     const auto& [from, a] = kStops[stop];
     const auto& [to, b] = kStops[stop + 1];
-    const auto mix = [&](int low, int high) {
-      return static_cast<std::uint8_t>(low + (high - low) * (index - from) / (to - from));
+    const auto mix = [part = index - from, whole = to - from](int low, int high) {
+      return static_cast<std::uint8_t>(low + (high - low) * part / whole);
     };
     tints.push_back({mix(a.red, b.red), mix(a.green, b.green), mix(a.blue, b.blue)});
   }
