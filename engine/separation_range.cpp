@@ -74,7 +74,9 @@ SeparationRange FindSeparationRange(const IndexedImage& picture) {
     return 2 * std::max({at(s / 2 - 1), at(s / 2), at((s + 1) / 2)}) >= at(s);
   };
   SeparationRange range{strongest, strongest};
-  for (int s = strongest + 1; s <= strongest * 9 / 4; ++s) {
+  // Beyond a wide stretch without repeats come sums of two separations.
+  for (int s = strongest + 1; s <= std::min(strongest * 9 / 4, range.largest + strongest / 2);
+       ++s) {
     if (at(s) >= least && !isDouble(s)) range.largest = s;
   }
   // Near parts are often too small or too steep to leave a trace in the count.
