@@ -8,10 +8,10 @@
 #include "codec/bmp_colour_rows.h"
 #include "codec/bmp_header.h"
 #include "codec/bmp_run_length.h"
-#include "codec/little_endian.h"
 #include "codec/packed_bits.h"
 #include "codec/reduce_rows.h"
 #include "platform/limits.h"
+#include "platform/little_endian.h"
 
 namespace plenovia {
 

@@ -2,7 +2,7 @@
 
 #include <bit>
 
-#include "codec/little_endian.h"
+#include "platform/little_endian.h"
 
 namespace plenovia {
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "codec/little_endian.h"
 #include "codec/packed_bits.h"
 #include "platform/limits.h"
+#include "platform/little_endian.h"
 
 namespace plenovia {
 

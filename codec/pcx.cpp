@@ -6,13 +6,13 @@
 #include <utility>
 #include <vector>
 
-#include "codec/little_endian.h"
 #include "codec/packed_bits.h"
 #include "codec/pcx_header.h"
 #include "codec/pcx_lines.h"
 #include "codec/pcx_palette.h"
 #include "codec/reduce_rows.h"
 #include "platform/limits.h"
+#include "platform/little_endian.h"
 
 namespace plenovia {
 

@@ -1,8 +1,8 @@
 #include "codec/pcx_header.h"
 
-#include "codec/little_endian.h"
 #include "codec/packed_bits.h"
 #include "platform/limits.h"
+#include "platform/little_endian.h"
 
 namespace plenovia {
 

@@ -65,7 +65,7 @@ Result<ByteBuffer> EncodeDepthMap(const TDepthList& list) {
     bytes.resize(kVersionOffset);
     std::fill(bytes.begin() + kMagic.size(), bytes.end(), std::uint8_t{0});
     bytes.push_back(kVersion);
-    PutInt32(bytes, static_cast<std::int32_t>(count));
+    Put32(bytes, static_cast<std::uint32_t>(count));
     for (const TDepthObj* object = list.Head(); object != nullptr;
          object = TDepthList::Below(*object)) {
       object->WriteTo(bytes);

@@ -116,17 +116,18 @@ void TDepthObj::Invalidate() {
 }
 
 void TDepthObj::WriteTo(ByteBuffer& out) const {
-  PutInt32(out, kind_);
-  PutInt32(out, level_);
+  Put32(out, static_cast<std::uint32_t>(kind_));
+  Put32(out, static_cast<std::uint32_t>(level_));
   if (kind_ == PolygonObj) {
-    PutInt32(out, static_cast<std::int32_t>(points_.size()));
+    Put32(out, static_cast<std::uint32_t>(points_.size()));
     for (const DepthPoint& p : points_) {
-      PutInt32(out, p.x);
-      PutInt32(out, p.y);
+      Put32(out, static_cast<std::uint32_t>(p.x));
+      Put32(out, static_cast<std::uint32_t>(p.y));
     }
     return;
   }
-  for (const std::int32_t value : {rect_.x1, rect_.y1, rect_.x2, rect_.y2}) PutInt32(out, value);
+  for (const std::int32_t value : {rect_.x1, rect_.y1, rect_.x2, rect_.y2})
+    Put32(out, static_cast<std::uint32_t>(value));
 }
 
 bool TDepthObj::ReadFrom(Int32Reader& in) {

@@ -7,8 +7,8 @@
 #include <span>
 #include <vector>
 
+#include "depthmap/int32_reader.h"
 #include "depthmap/link_obj.h"
-#include "depthmap/little_endian.h"
 #include "platform/pixel_buffer.h"
 #include "platform/region.h"
 

@@ -3,24 +3,14 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
+
+#include "engine/byte_lanes.h"
 
 namespace plenovia {
 
-inline constexpr std::ptrdiff_t kBlock = 16;
+inline constexpr std::ptrdiff_t kBlock = kByteLanes;
 
 namespace block_copy_detail {
-
-using Block = std::uint8_t __attribute__((vector_size(16)));
-
-inline Block Load(const std::uint8_t* from) {
-  Block block;
-  std::memcpy(&block, from, sizeof block);
-  return block;
-}
-inline void Store(std::uint8_t* to, Block block) {
-  std::memcpy(to, &block, sizeof block);
-}
 
 // Sixteen set bytes between two times sixteen clear ones.
 inline constexpr struct Masks {
@@ -29,15 +19,15 @@ inline constexpr struct Masks {
     for (int i = 16; i < 32; ++i) bytes[i] = 0xff;
   }
 } kMasks;
-inline Block FirstBytes(std::ptrdiff_t count) {
-  return Load(kMasks.bytes + 32 - count);
+inline ByteLanes FirstBytes(std::ptrdiff_t count) {
+  return LoadLanes(kMasks.bytes + 32 - count);
 }
-inline Block LastBytes(std::ptrdiff_t count) {
-  return Load(kMasks.bytes + count);
+inline ByteLanes LastBytes(std::ptrdiff_t count) {
+  return LoadLanes(kMasks.bytes + count);
 }
 
-inline void StoreWhere(Block mask, std::uint8_t* to, Block block) {
-  Store(to, (Load(to) & ~mask) | (block & mask));
+inline void StoreWhere(ByteLanes mask, std::uint8_t* to, ByteLanes lanes) {
+  StoreLanes(to, (LoadLanes(to) & ~mask) | (lanes & mask));
 }
 
 }  // namespace block_copy_detail
@@ -56,8 +46,9 @@ inline bool DescendingInBlocks(std::ptrdiff_t distance) {
 // to[i] = from[i] for i = 0, 1, ..., count-1; AscendingInBlocks(to - from) holds.
 inline void CopyAscending(std::uint8_t* to, const std::uint8_t* from, std::ptrdiff_t count) {
   using namespace block_copy_detail;
-  for (; count > kBlock; count -= kBlock, to += kBlock, from += kBlock) Store(to, Load(from));
-  if (count > 0) StoreWhere(FirstBytes(count), to, Load(from));
+  for (; count > kBlock; count -= kBlock, to += kBlock, from += kBlock)
+    StoreLanes(to, LoadLanes(from));
+  if (count > 0) StoreWhere(FirstBytes(count), to, LoadLanes(from));
 }
 
 // to[-i] = from[-i] for i = 1, 2, ..., count; DescendingInBlocks(to - from) holds.
@@ -66,9 +57,9 @@ inline void CopyDescending(std::uint8_t* to, const std::uint8_t* from, std::ptrd
   for (; count > kBlock; count -= kBlock) {
     to -= kBlock;
     from -= kBlock;
-    Store(to, Load(from));
+    StoreLanes(to, LoadLanes(from));
   }
-  if (count > 0) StoreWhere(LastBytes(count), to - kBlock, Load(from - kBlock));
+  if (count > 0) StoreWhere(LastBytes(count), to - kBlock, LoadLanes(from - kBlock));
 }
 
 }  // namespace plenovia

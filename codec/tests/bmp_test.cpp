@@ -6,8 +6,8 @@
 #include <tuple>
 #include <vector>
 
-#include "codec/little_endian.h"
 #include "codec/tests/reader_checks.h"
+#include "platform/little_endian.h"
 #include "platform/random.h"
 #include "testing/picture_compare.h"
 

@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "depthmap/little_endian.h"
 #include "platform/file_io.h"
+#include "platform/little_endian.h"
 #include "testing/temp_folder.h"
 
 namespace plenovia {
@@ -19,7 +19,7 @@ namespace {
 // A file of a header and these numbers, the count of records first.
 ByteBuffer File(const std::vector<std::int32_t>& numbers) {
   ByteBuffer bytes{'D', 'E', 'P', 'T', 'H', 'M', 'A', 'P', 0, '.', '.', '.', '.', '.', '.', '.', 1};
-  for (const std::int32_t number : numbers) PutInt32(bytes, number);
+  for (const std::int32_t number : numbers) Put32(bytes, static_cast<std::uint32_t>(number));
   return bytes;
 }
 

@@ -1,20 +1,12 @@
-// Whole numbers of 32 bits in files, least significant byte first.
+// Whole numbers of 32 bits out of a file, lowest byte first.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <span>
 
-#include "platform/pixel_buffer.h"
+#include "platform/little_endian.h"
 
 namespace plenovia {
-
-inline void PutInt32(ByteBuffer& out, std::int32_t value) {
-  const auto bits = static_cast<std::uint32_t>(value);
-  for (int shift = 0; shift < 32; shift += 8) {
-    out.push_back(static_cast<std::uint8_t>(bits >> shift));
-  }
-}
 
 // Takes numbers from the front of some bytes.
 class Int32Reader {
@@ -29,9 +21,7 @@ class Int32Reader {
       bytes_ = {};
       return false;
     }
-    std::uint32_t bits = 0;
-    for (std::size_t i = 0; i < 4; ++i) bits |= static_cast<std::uint32_t>(bytes_[i]) << (8 * i);
-    value = static_cast<std::int32_t>(bits);
+    value = static_cast<std::int32_t>(Get32(bytes_, 0));
     bytes_ = bytes_.subspan(4);
     return true;
   }
