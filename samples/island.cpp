@@ -41,9 +41,9 @@ class Roughness {
  private:
   static double Smooth(double t) { return t * t * (3 - 2 * t); }
   double Corner(double x, double y) const {
-    const int column = static_cast<int>(x) & 63;
-    const int row = static_cast<int>(y) & 63;
-    return lattice_[static_cast<std::size_t>(row * 64 + column)];
+    const std::size_t column = static_cast<std::size_t>(x) & 63;
+    const std::size_t row = static_cast<std::size_t>(y) & 63;
+    return lattice_[row * 64 + column];
   }
   std::array<double, 64 * 64> lattice_{};
 };

@@ -73,7 +73,8 @@ Tile Labyrinth(std::uint64_t seed) {
     const auto at = [&](int dx, int dy) {
       const int px = (static_cast<int>(x) + dx + kSize.width) % kSize.width;
       const int py = (static_cast<int>(y) + dy + kSize.height) % kSize.height;
-      return skin[static_cast<std::size_t>(py * kSize.width + px)];
+      const auto row = static_cast<std::size_t>(py) * static_cast<std::size_t>(kSize.width);
+      return skin[row + static_cast<std::size_t>(px)];
     };
     const double slope = (at(1, 1) - at(-1, -1)) * 1.6;
     const double grain = PixelGrain(seed + 6, kSize, x, y) - 0.5;
