@@ -41,8 +41,8 @@ class Roughness {
  private:
   static double Smooth(double t) { return t * t * (3 - 2 * t); }
   double Corner(double x, double y) const {
-    const std::size_t column = static_cast<std::size_t>(x) & 63;
-    const std::size_t row = static_cast<std::size_t>(y) & 63;
+    const auto column = static_cast<std::size_t>(static_cast<int>(x) & 63);
+    const auto row = static_cast<std::size_t>(static_cast<int>(y) & 63);
     return lattice_[row * 64 + column];
   }
   std::array<double, 64 * 64> lattice_{};
