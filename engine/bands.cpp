@@ -1,9 +1,10 @@
 #include "engine/bands.h"
 
 #include <algorithm>
-#include <atomic>
-#include <thread>
+#include <cstddef>
 #include <vector>
+
+#include "engine/parts.h"
 
 namespace plenovia {
 
@@ -44,40 +45,20 @@ bool RunBands(int width, int rows, int threads, const WorkerFactory& makeWorker,
               RunMonitor& monitor) {
   const int band = BandHeight(rows, (width + 3) / 4 * 4);
   const int bands = (rows + band - 1) / band;
-  std::atomic<int> next{0};
-  std::atomic<int> finished{0};
-  std::atomic<bool> stop{false};
-
-  // Takes bands until none is left; `after` is told of each and says whether to go on.
-  const auto work = [&](const RowWorker& shiftRow, const auto& after) {
-    while (!stop.load(std::memory_order_relaxed)) {
-      const int index = next.fetch_add(1);
-      if (index >= bands) return;
-      const int end = std::min(rows, (index + 1) * band);
-      for (int y = index * band; y < end; ++y) shiftRow(y);
-      finished.fetch_add(1);
-      if (!after()) stop = true;
-    }
-  };
-
-  const auto helpers = static_cast<std::size_t>(std::clamp(threads, 1, bands) - 1);
-  std::vector<RowWorker> workers(helpers);
+  std::vector<RowWorker> workers(static_cast<std::size_t>(std::clamp(threads, 1, bands)));
   for (RowWorker& worker : workers) worker = makeWorker();
-  const RowWorker own = makeWorker();
-  {
-    std::vector<std::jthread> pool;
-    pool.reserve(helpers);
-    for (const RowWorker& worker : workers) {
-      pool.emplace_back([&work, &worker] { work(worker, [] { return true; }); });
-    }
-    ProgressSteps progress(width, rows, monitor);
-    work(own, [&] {
-      if (monitor.StopRequested()) return false;
-      progress.BandDone((finished.load() - 1) * band);
-      return true;
-    });
-  }
-  return !stop;
+  ProgressSteps progress(width, rows, monitor);
+  return ShareParts(
+      bands, workers.size(),
+      [&](std::size_t worker, int index) {
+        const int end = std::min(rows, (index + 1) * band);
+        for (int y = index * band; y < end; ++y) workers[worker](y);
+      },
+      [&](int done) {
+        if (monitor.StopRequested()) return false;
+        progress.BandDone((done - 1) * band);
+        return true;
+      });
 }
 
 }  // namespace plenovia

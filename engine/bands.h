@@ -19,7 +19,8 @@ using WorkerFactory = std::function<RowWorker()>;
 
 // Calls the workers for each scan line 0..rows-1 of a run that is `width` columns wide, and after
 // each band asks the monitor whether to stop and reports progress at steps of at least 10 percent.
-// Returns false when it was stopped; bands that were begun are finished then.
+// Returns false when it was stopped; bands that were begun are finished then. What a worker throws
+// ends the run and is thrown again from here.
 [[nodiscard]] bool RunBands(int width, int rows, int threads, const WorkerFactory& makeWorker,
                             RunMonitor& monitor);
 

@@ -102,20 +102,42 @@ class Bracket {
   RunMonitor& monitor_;
 };
 
+// A gap and a place for which sums with coordinates fit an int, and rows are no narrower than the
+// result.
+Result<void> CheckInput(const RunInput& input) {
+  if (input.pattern.empty()) return Failure(ErrorCode::kInvalid, "there is no pattern");
+  const auto fits = [](std::int32_t pixels, std::int32_t least) {
+    return pixels >= least && pixels <= kMaxSide;
+  };
+  const TSirdsSettings& settings = input.settings;
+  if (!fits(settings.gapValue, 0) || !fits(settings.dx, -kMaxSide) ||
+      !fits(settings.dy, -kMaxSide)) {
+    return Failure(ErrorCode::kInvalid, "the gap or the place of the figure is out of range");
+  }
+  return {};
+}
+
+// What all runs do alike around their own work.
+template <class Work>
+Result<IndexedImage> Run(const RunInput& input, std::string startText, const Work& work) {
+  const Bracket bracket(input.monitor, std::move(startText));
+  if (auto usable = CheckInput(input); !usable) return tl::unexpected(usable.error());
+  try {
+    return work();
+  } catch (const std::bad_alloc&) {
+    return Failure(ErrorCode::kTooLarge, "there is not enough memory for the stereogram");
+  }
+}
+
 // Generates the canvas and finishes it. `caption` may be empty.
 Result<IndexedImage> Generate(const Canvas& canvas, const DepthSource& source,
                               const RunInput& input,
                               const std::function<void(IndexedImage&)>& caption = {}) {
-  if (input.pattern.empty()) return Failure(ErrorCode::kInvalid, "there is no pattern");
-  try {
-    auto result = ShiftRows(canvas, source, input);
-    if (!result) return result;
-    if (caption) caption(*result);
-    if (input.settings.marker != 0) DrawMarkers(*result, input.settings.gapValue);
-    return result;
-  } catch (const std::bad_alloc&) {
-    return Failure(ErrorCode::kTooLarge, "there is not enough memory for the stereogram");
-  }
+  auto result = ShiftRows(canvas, source, input);
+  if (!result) return result;
+  if (caption) caption(*result);
+  if (input.settings.marker != 0) DrawMarkers(*result, input.settings.gapValue);
+  return result;
 }
 
 // `picture` with each pixel at the palette's nearest colour.
@@ -131,16 +153,13 @@ Result<IndexedImage> MapToPalette(const IndexedImage& picture, const Palette& pa
   return mapped;
 }
 
-}  // namespace
-
-Result<IndexedImage> MakeSirdFromBitmap(const IndexedImage& source, double zoom,
-                                        const RunInput& input) {
+Result<IndexedImage> FromBitmap(const IndexedImage& source, double zoom, const RunInput& input) {
   const TSirdsSettings& settings = input.settings;
-  const Bracket bracket(input.monitor, "");
   const double scaledWidth = std::trunc(source.width() * zoom);
   const double scaledHeight = std::trunc(source.height() * zoom);
   const double gap = settings.gapValue * zoom;
-  if (!(scaledWidth + std::abs(gap) < 1e6 && scaledHeight < 1e6)) {
+  if (!(zoom > 0)) return Failure(ErrorCode::kInvalid, "the zoom is not above 0");
+  if (!(scaledWidth + gap < 1e6 && scaledHeight < 1e6)) {
     return Failure(ErrorCode::kTooLarge, "the stereogram is too large");
   }
   Canvas canvas;
@@ -153,9 +172,8 @@ Result<IndexedImage> MakeSirdFromBitmap(const IndexedImage& source, double zoom,
   return Generate(canvas, PictureDepth(source, zoom, start, settings.depthSel), input);
 }
 
-Result<IndexedImage> MakeSirdFromDepthMap(const LevelGrid& map, const RunInput& input) {
+Result<IndexedImage> FromDepthMap(const LevelGrid& map, const RunInput& input) {
   const TSirdsSettings& settings = input.settings;
-  const Bracket bracket(input.monitor, "");
   if (auto fits = CheckPictureSize(map.GridWidth(), map.GridHeight()); !fits) {
     return tl::unexpected(fits.error());
   }
@@ -167,9 +185,8 @@ Result<IndexedImage> MakeSirdFromDepthMap(const LevelGrid& map, const RunInput& 
   return Generate(canvas, MapDepth(map, StartColumn(settings.scanMethod, canvas.gap)), input);
 }
 
-Result<IndexedImage> MakeSirdFromFigure(const FigureRun& figure, const RunInput& input) {
+Result<IndexedImage> FromFigure(const FigureRun& figure, const RunInput& input) {
   const TSirdsSettings& settings = input.settings;
-  const Bracket bracket(input.monitor, "Generating Dots");
   Canvas canvas;
   canvas.gap = settings.gapValue;
   canvas.finalWidth = settings.w;
@@ -186,6 +203,21 @@ Result<IndexedImage> MakeSirdFromFigure(const FigureRun& figure, const RunInput&
   canvas.runWidth = canvas.finalWidth;
   const FigureDepth depth(figure.level, figure.code, canvas.finalWidth, canvas.height, settings);
   return Generate(canvas, depth, input, figure.caption);
+}
+
+}  // namespace
+
+Result<IndexedImage> MakeSirdFromBitmap(const IndexedImage& source, double zoom,
+                                        const RunInput& input) {
+  return Run(input, "", [&] { return FromBitmap(source, zoom, input); });
+}
+
+Result<IndexedImage> MakeSirdFromDepthMap(const LevelGrid& map, const RunInput& input) {
+  return Run(input, "", [&] { return FromDepthMap(map, input); });
+}
+
+Result<IndexedImage> MakeSirdFromFigure(const FigureRun& figure, const RunInput& input) {
+  return Run(input, "Generating Dots", [&] { return FromFigure(figure, input); });
 }
 
 }  // namespace plenovia

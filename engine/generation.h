@@ -23,8 +23,9 @@ struct RunInput {
 };
 
 // Each run gives the finished stereogram, or an error: kCancelled when the monitor stopped it,
-// kInvalid or kTooLarge when the picture cannot be made (a side below 1, or no memory). In every
-// case the monitor hears the end phase last.
+// kInvalid or kTooLarge when the picture cannot be made (a side below 1, no memory, a negative gap,
+// or a gap, dx or dy of more pixels than a picture's side can have). In every case the monitor
+// hears the end phase last.
 
 // Depth from a picture by palette index or by brightness. `zoom` scales the result, the source is
 // read at the nearest pixel.

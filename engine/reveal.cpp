@@ -1,10 +1,9 @@
 #include "engine/reveal.h"
 
 #include <algorithm>
-#include <atomic>
 #include <new>
-#include <thread>
 
+#include "engine/parts.h"
 #include "engine/reveal_strip.h"
 #include "engine/separation_range.h"
 #include "platform/limits.h"
@@ -31,32 +30,21 @@ bool SearchStrips(const MatchCost& cost, int threads, RunMonitor& monitor, Revea
   searches.reserve(static_cast<std::size_t>(workers));
   for (int i = 0; i < workers; ++i) searches.emplace_back(cost, rows);
 
-  std::atomic<int> next{0};
-  std::atomic<int> finished{0};
-  std::atomic<bool> stop{false};
-  const auto work = [&](StripSearch& search, const auto& after) {
-    while (!stop) {
-      const int first = next.fetch_add(1) * rows;
-      if (first >= cost.height()) return;
-      search.Run(first, std::min(cost.height(), first + rows), result.separation, result.certainty);
-      ++finished;
-      after();
-    }
-  };
-  std::vector<std::jthread> pool;
-  for (std::size_t i = 1; i < searches.size(); ++i) {
-    pool.emplace_back([&work, &search = searches[i]] { work(search, [] {}); });
-  }
   int reported = 0;
-  work(searches[0], [&] {
-    if (monitor.StopRequested()) stop = true;
-    const int done = finished;
-    if ((done - reported) * 10 < strips) return;
-    reported = done;
-    monitor.OnProgress(ProgressPhase::kStep, {"Revealing Depth", done, strips});
-  });
-  pool.clear();
-  return !stop;
+  return ShareParts(
+      strips, searches.size(),
+      [&](std::size_t worker, int strip) {
+        const int first = strip * rows;
+        searches[worker].Run(first, std::min(cost.height(), first + rows), result.separation,
+                             result.certainty);
+      },
+      [&](int done) {
+        if (monitor.StopRequested()) return false;
+        if ((done - reported) * 10 < strips) return true;
+        reported = done;
+        monitor.OnProgress(ProgressPhase::kStep, {"Revealing Depth", done, strips});
+        return true;
+      });
 }
 
 Result<RevealedDepth> Search(const IndexedImage& picture, const RevealOptions& options,

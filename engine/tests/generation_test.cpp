@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <limits>
+#include <new>
 #include <string>
 #include <utility>
 #include <vector>
@@ -174,6 +176,48 @@ TEST_F(Generation, MapsOfImpossibleSizeEndTheRun) {
   EXPECT_EQ(MakeSirdFromDepthMap(Slope(30, 20), Input(2)).value().width(), 30);
 }
 
+std::int32_t NoDepth(std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::int32_t,
+                     std::int32_t) {
+  return 0;
+}
+
+// A grid that runs out of memory in one row.
+class Starved : public Slope {
+ public:
+  using Slope::Slope;
+  void LevelRow(int y, std::span<std::int32_t> levels) const override {
+    if (y == GridHeight() / 2) throw std::bad_alloc();
+    Slope::LevelRow(y, levels);
+  }
+};
+
+TEST_F(Generation, NoMemoryInAnyThreadEndsTheRun) {
+  for (const int threads : {1, 2, 5}) {
+    const auto result = MakeSirdFromDepthMap(Starved(400, 2000), Input(threads));
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error().code, ErrorCode::kTooLarge);
+    EXPECT_EQ(monitor_.events.back(), "2  0/0");
+  }
+}
+
+TEST_F(Generation, SettingsBeyondEveryPictureAreRefused) {
+  constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
+  constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
+  const IndexedImage source = RandomPicture(random_, 40, 30, 9);
+  for (const std::int32_t gap : {kLowest, -300, -1, kHighest}) {
+    settings_.gapValue = gap;
+    EXPECT_FALSE(MakeSirdFromBitmap(source, 1.0, Input()));
+    EXPECT_FALSE(MakeSirdFromDepthMap(Slope(40, 30), Input()));
+  }
+  for (const std::int32_t gap : {0, 1, 32767}) {
+    settings_.gapValue = gap;
+    EXPECT_TRUE(MakeSirdFromBitmap(source, 1.0, Input()));
+    EXPECT_TRUE(MakeSirdFromDepthMap(Slope(40, 30), Input()));
+  }
+  settings_ = {.dx = kLowest, .dy = kHighest};
+  EXPECT_FALSE(MakeSirdFromFigure({NoDepth, -1, nullptr, {}}, Input()));
+}
+
 // Packs its arguments into one number.
 std::int32_t Arguments(std::int32_t x, std::int32_t y, std::int32_t cx, std::int32_t cy,
                        std::int32_t angle, std::int32_t code) {
@@ -188,11 +232,6 @@ TEST(DepthRows, FiguresAreAskedForTheRightPoints) {
   settings.scanMethod = kFeucht;
   BuildFigureDepthRow(depth, Arguments, -2, 10, 400, 300, settings);
   EXPECT_EQ(depth[5], Arguments(52, 14, 250, 150, 7, -2));
-}
-
-std::int32_t NoDepth(std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::int32_t,
-                     std::int32_t) {
-  return 0;
 }
 
 TEST_F(Generation, FigureOverAPictureTakesItsSizeAndThePatternsColours) {
