@@ -1,6 +1,7 @@
 #include "codec/gif_intf.h"
 
 #include "codec/gif.h"
+#include "codec/graph_io.h"
 #include "platform/file_io.h"
 
 namespace plenovia {
@@ -9,7 +10,7 @@ Result<IndexedImage> TGifIntf::Read_File(const std::filesystem::path& path) {
   const auto bytes = ReadFile(path);
   if (!bytes) return tl::unexpected(bytes.error());
   if (!LooksLikeGif(*bytes)) return Failure(ErrorCode::kUnsupported, "is not a GIF file");
-  return DecodeGif(*bytes);
+  return DecodePicture(*bytes);
 }
 
 }  // namespace plenovia

@@ -6,6 +6,8 @@
 #include <jpeglib.h>
 #include <png.h>
 
+#include <new>
+
 #include "codec/bmp.h"
 #include "codec/gif.h"
 #include "codec/jpeg.h"
@@ -52,12 +54,20 @@ Result<IndexedImage> DecodePicture(std::span<const std::uint8_t> bytes) {
   if (codec == nullptr) {
     return Failure(ErrorCode::kUnsupported, "is not a picture file of a known format");
   }
-  return codec->decode(bytes);
+  try {
+    return codec->decode(bytes);
+  } catch (const std::bad_alloc&) {
+    return Failure(ErrorCode::kTooLarge, "there is not enough memory to read the picture");
+  }
 }
 
 Result<EncodedPicture> EncodePicture(GraphicFormat format, const IndexedImage& picture) {
-  for (const Codec& codec : kCodecs) {
-    if (codec.format == format) return codec.encode(picture);
+  try {
+    for (const Codec& codec : kCodecs) {
+      if (codec.format == format) return codec.encode(picture);
+    }
+  } catch (const std::bad_alloc&) {
+    return Failure(ErrorCode::kTooLarge, "there is not enough memory to write the picture");
   }
   return Failure(ErrorCode::kUnsupported, format == GraphicFormat::kDepthMap
                                               ? "a picture cannot be written as a depth map"
