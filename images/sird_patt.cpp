@@ -81,8 +81,9 @@ const Palette* TSirdPatt::GetCurrentPalette() const {
 TSirdPatt LoadPatterns(const std::filesystem::path& directory, int start, int count,
                        const PatternProgress& progress) {
   constexpr int kShipped = 20;
+  constexpr int kMost = 10000;  // a number from a damaged settings file must not keep us for hours
   TSirdPatt library(directory);
-  count = std::max(count, kShipped);
+  count = std::clamp(count, kShipped, kMost);
   for (int number = 0; number < count; ++number) {
     const bool loaded = library.LoadPatternFile(PatternFileName(number)).has_value();
     if (!loaded) start = 0;

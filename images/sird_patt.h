@@ -49,7 +49,7 @@ class TSirdPatt {
 // whether this one was loaded.
 using PatternProgress = std::function<void(int done, int count, bool loaded)>;
 
-// The library of the files 0..count-1 of the directory, at least 20 of them. Files that are missing
+// The library of the files 0..count-1 of the directory, 20 to 10000 of them. Files that are missing
 // or cannot be read are passed over; when there was one, the first pattern becomes current, else
 // the one at `start`.
 TSirdPatt LoadPatterns(const std::filesystem::path& directory, int start, int count,

@@ -92,6 +92,21 @@ fs::path FollowLinks(fs::path path) {
   return path;
 }
 
+// Creates and opens a new file in the folder of `target`, with the permissions that new files get,
+// and sets `name` to its path. Negative on failure.
+int CreateBeside(const fs::path& target, std::string& name) {
+  constexpr int kTries = 1000;
+  const std::string start =
+      (target.parent_path() / (".plenovia-" + std::to_string(getpid()) + "-")).string();
+  int descriptor = -1;
+  for (int i = 0; i < kTries; ++i) {
+    name = start + std::to_string(i);
+    descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (descriptor >= 0 || errno != EEXIST) break;
+  }
+  return descriptor;
+}
+
 }  // namespace
 
 Result<ByteBuffer> ReadFile(const fs::path& path, std::size_t most) {
@@ -131,21 +146,15 @@ Result<void> WriteFile(const fs::path& path,
   if (replaces && !S_ISREG(old.st_mode)) return Failure(ErrorCode::kIo, "is not a regular file");
   if (replaces && access(target.c_str(), W_OK) != 0) return SystemFailure("cannot be written");
 
-  std::string name = (target.parent_path() / (".plenovia-XXXXXX")).string();
-  Descriptor file(mkostemp(name.data(), O_CLOEXEC));
+  std::string name;
+  Descriptor file(CreateBeside(target, name));
   if (file.get() < 0) return SystemFailure("cannot be written");
   Leftover leftover(name);
 
-  mode_t mode = 0666;
-  if (replaces) {
-    mode = old.st_mode & 07777;
-  } else {
-    const mode_t mask = umask(0);
-    umask(mask);
-    mode &= ~mask;
-  }
   if (!WriteAll(file.get(), pieces)) return SystemFailure("cannot be written");
-  if (fchmod(file.get(), mode) != 0) return SystemFailure("cannot be written");
+  if (replaces && fchmod(file.get(), old.st_mode & 07777) != 0) {
+    return SystemFailure("cannot be written");
+  }
   // Without this a power failure soon after the renaming could lose the old file and the new one.
   if (replaces && fdatasync(file.get()) != 0) return SystemFailure("cannot be written");
   if (!file.Close()) return SystemFailure("cannot be written");
