@@ -59,16 +59,21 @@ void LevelRows::Sample(const TDepthObj* head, int y, std::span<std::int32_t> lev
   const auto width = static_cast<std::int32_t>(levels.size());
   std::vector<Piece> pieces;
   RowSpans spans;
+  // The topmost place known to cover the whole row: nothing below it shows.
+  std::uint32_t cover = std::numeric_limits<std::uint32_t>::max();
   index_.ForEachAt(y, [&](std::uint32_t place) {
+    if (place > cover) return;
     const auto& [object, region] = objects_[place];
     region->Spans(y, spans);
     for (const Span& span : spans) {
       if (span.left >= width || span.right <= 0) continue;
+      if (span.left <= 0 && span.right >= width) cover = place;
       pieces.push_back({static_cast<std::int32_t>(std::max<std::int64_t>(span.left, 0)),
                         static_cast<std::int32_t>(std::min<std::int64_t>(span.right, width)), place,
                         object->GetLevel()});
     }
   });
+  std::erase_if(pieces, [cover](const Piece& piece) { return piece.place > cover; });
   std::sort(pieces.begin(), pieces.end(),
             [](const Piece& a, const Piece& b) { return a.left < b.left; });
 
