@@ -25,7 +25,7 @@ ctest --preset asan
 
 echo "== fuzz targets, $seconds seconds each"
 cmake --preset fuzz
-cmake --build --preset fuzz
+cmake --build --preset fuzz --target fuzz_targets
 for target in build/fuzz/fuzz/fuzz_*; do
   [ -x "$target" ] && [ -f "$target" ] || continue
   name=${target##*/fuzz_}
