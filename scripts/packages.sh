@@ -35,10 +35,15 @@ need_packages() {
   echo "The packages are installed."
 }
 
-# To build the program.
-build_packages=(
+# To build the cores and the command line.
+core_packages=(
   cmake g++ ninja-build
   libcli11-dev libexpected-dev libgif-dev libjpeg62-turbo-dev libpng-dev libsimpleini-dev
+)
+# To build the desktop program, and to show it.
+build_packages=(
+  "${core_packages[@]}"
+  qt6-base-dev libqt6svg6-dev libgl-dev fonts-dejavu-core
 )
 # To build and run its tests.
 test_packages=(libgtest-dev)

@@ -1,0 +1,12 @@
+// Where the settings file lies.
+#pragma once
+
+#include <filesystem>
+
+namespace plenovia {
+
+// "plenovia/PLENOVIA.INI" in the user's configuration folder ($XDG_CONFIG_HOME). The folder is made
+// when the file is saved.
+std::filesystem::path SettingsPath();
+
+}  // namespace plenovia

@@ -1,0 +1,31 @@
+// The inside of a document window.
+#pragma once
+
+#include <QAbstractScrollArea>
+
+#include "depthmap/ui/mouse_wnd.h"
+
+namespace plenovia {
+
+// Hands what happens in it to its window.
+class TMouseWnd::ClientView : public QAbstractScrollArea {
+ public:
+  explicit ClientView(TMouseWnd& window);
+
+  // In the display's pixels.
+  void SetScrollExtent(const QSize& extent);
+
+ protected:
+  bool viewportEvent(QEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
+
+ private:
+  bool MouseEvent(const QMouseEvent& event);
+  void PaintClient(const QRect& exposed);
+  void UpdateRanges();
+
+  TMouseWnd& window_;
+  QSize extent_;
+};
+
+}  // namespace plenovia

@@ -1,0 +1,164 @@
+#include "depthmap/ui/mouse_wnd.h"
+
+#include <QScrollBar>
+#include <QStyle>
+#include <algorithm>
+
+#include "depthmap/ui/client_view.h"
+#include "platform/ui/picture_painting.h"
+#include "platform/ui/resource_pictures.h"
+
+namespace plenovia {
+
+namespace {
+
+constexpr Qt::KeyboardModifiers kShiftOrControl = Qt::ShiftModifier | Qt::ControlModifier;
+
+bool OnlyButton(const MouseKeys& keys, Qt::MouseButton button) {
+  return keys.buttons == button && !(keys.modifiers & kShiftOrControl);
+}
+
+}  // namespace
+
+QRect TrackRect::Normalised() const {
+  const QPoint corner(std::min(anchor.x(), moving.x()), std::min(anchor.y(), moving.y()));
+  return {corner, QSize(std::abs(moving.x() - anchor.x()), std::abs(moving.y() - anchor.y()))};
+}
+
+TMouseWnd::TMouseWnd(QMdiArea* client, const QString& title, QWidget* frame)
+    : frame_(frame), view_(new ClientView(*this)) {
+  setAttribute(Qt::WA_DeleteOnClose);
+  setWindowTitle(title);
+  setWidget(view_);
+  client->addSubWindow(this);
+  connect(client, &QMdiArea::subWindowActivated, this, [this, client](QMdiSubWindow* window) {
+    // No window is told when the program goes to the background: then the current one stays.
+    const QMdiSubWindow* current = window != nullptr ? window : client->currentSubWindow();
+    if (active_ == (current == this)) return;
+    active_ = !active_;
+    EvMDIActivate(active_);
+  });
+}
+
+QSize TMouseWnd::ClientSize() const {
+  return DevicePixels(*view_->viewport());
+}
+
+void TMouseWnd::SetClientSize(const QSize& size) {
+  // Scroll bars that stand in the way go once there is room, so the room is made first.
+  const QSize now = view_->size();
+  const QSize logical = LogicalArea(QRect(QPoint(), size)).size();
+  resize(this->size() + logical - now);
+}
+
+void TMouseWnd::SetWindowSize(const QSize& size) {
+  resize(LogicalArea(QRect(QPoint(), size)).size());
+}
+
+void TMouseWnd::EvLButtonDblClk(MouseKeys keys, QPoint point) {
+  OnLButtonDblClk(keys, point);
+}
+
+void TMouseWnd::EvLButtonDown(MouseKeys keys, QPoint point) {
+  tracking_ = {point, point};
+  buttonDownPoint_ = point;
+  lastPoint_ = point;
+  leftDown_ = true;
+  OnLButtonDown(keys, point);
+}
+
+void TMouseWnd::EvLButtonUp(MouseKeys keys, QPoint point) {
+  if (!leftDown_) return;
+  UpdateTrack(point.x(), point.y());
+  OnLButtonUp(keys, point);
+  EndLeftTrack();
+}
+
+void TMouseWnd::EvRButtonDown(MouseKeys keys, QPoint point) {
+  rightDown_ = true;
+  buttonDownPoint_ = point;
+  OnRButtonDown(keys, point);
+}
+
+void TMouseWnd::EvRButtonUp(MouseKeys keys, QPoint point) {
+  if (!rightDown_) return;
+  OnRButtonUp(keys, point);
+  EndRightTrack();
+}
+
+void TMouseWnd::MouseMoved(MouseKeys keys, QPoint point) {
+  if (!leftDown_ && !rightDown_) {
+    HoverMove(point.x(), point.y());
+  } else if (OnlyButton(keys, Qt::LeftButton)) {
+    leftDragged_ = true;
+    LeftDrag(point.x(), point.y());
+  } else if (OnlyButton(keys, Qt::RightButton)) {
+    rightDragged_ = true;
+    RightDrag(point.x(), point.y());
+  }
+}
+
+void TMouseWnd::LeftDrag(int x, int y) {
+  UpdateTrack(x, y);
+}
+void TMouseWnd::RightDrag(int x, int y) {
+  UpdateTrack(x, y);
+}
+void TMouseWnd::HoverMove(int x, int y) {
+  SetLastPoint(x, y);
+}
+
+void TMouseWnd::EndLeftTrack() {
+  leftDown_ = false;
+  leftDragged_ = false;
+}
+
+void TMouseWnd::EndRightTrack() {
+  rightDown_ = false;
+  rightDragged_ = false;
+}
+
+void TMouseWnd::UpdateTrack(int x, int y) {
+  tracking_.moving = {x, y};
+}
+
+void TMouseWnd::SetCursorId(int id) {
+  if (id == cursorId_) return;
+  cursorId_ = id;
+  view_->viewport()->setCursor(CursorById(id, devicePixelRatioF()));
+}
+
+QRect TMouseWnd::LogicalArea(const QRect& client) const {
+  const qreal scale = devicePixelRatioF();
+  return QRectF(QPointF(client.topLeft()) / scale, QSizeF(client.size()) / scale).toAlignedRect();
+}
+
+void TMouseWnd::Invalidate(const QRect& area) {
+  view_->viewport()->update(LogicalArea(area));
+}
+
+void TMouseWnd::InvalidateAll() {
+  view_->viewport()->update();
+}
+
+void TMouseWnd::RepaintNow(const QRect& area) {
+  view_->viewport()->repaint(LogicalArea(area));
+}
+
+void TMouseWnd::SetScrollExtent(const QSize& extent) {
+  view_->SetScrollExtent(extent);
+}
+
+QPoint TMouseWnd::ScrollPosition() const {
+  return {view_->horizontalScrollBar()->value(), view_->verticalScrollBar()->value()};
+}
+
+void TMouseWnd::closeEvent(QCloseEvent* event) {
+  if (CanClose()) {
+    QMdiSubWindow::closeEvent(event);
+  } else {
+    event->ignore();
+  }
+}
+
+}  // namespace plenovia

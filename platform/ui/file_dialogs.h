@@ -1,0 +1,28 @@
+// The platform's own dialogs for opening and saving files.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+#include <optional>
+
+namespace plenovia {
+
+// The entries of a filter text "description|pattern|description|pattern|...", in Qt's form
+// ("Bitmap Files (*.BMP)" with the pattern in both cases of letters).
+QStringList FilterEntries(const QString& notation);
+
+struct FileQuestion {
+  QString title;
+  QString filters;           // as FilterEntries() takes them
+  int preselected = 1;       // position of a filter entry, from 1; beyond the list: the first one
+  QString defaultExtension;  // for names typed without one; without a dot
+  QString suggestion;        // a file name to start with; may be empty
+};
+
+// An existing file, or nothing when the user cancels.
+std::optional<QString> AskOpenFile(QWidget* owner, const FileQuestion& question);
+// A file in an existing folder; an existing file is not asked about. Nothing on cancel.
+std::optional<QString> AskSaveFile(QWidget* owner, const FileQuestion& question);
+
+}  // namespace plenovia

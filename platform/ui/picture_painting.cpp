@@ -1,0 +1,75 @@
+#include "platform/ui/picture_painting.h"
+
+#include <QList>
+#include <QPixmap>
+#include <QtMath>
+#include <algorithm>
+#include <cstring>
+
+#include "platform/zoomed_picture.h"
+
+namespace plenovia {
+
+void UseDevicePixels(QPainter& painter) {
+  const QPointF origin = painter.deviceTransform().map(QPointF());
+  const qreal scale = painter.deviceTransform().m11();
+  const QPointF whole(qRound(origin.x()), qRound(origin.y()));
+  painter.translate((whole - origin) / scale);
+  painter.scale(1 / scale, 1 / scale);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+}
+
+QSize DevicePixels(const QWidget& widget) {
+  const QSizeF exact = QSizeF(widget.size()) * widget.devicePixelRatioF();
+  return {qFloor(exact.width()), qFloor(exact.height())};
+}
+
+QRect DevicePixels(const QWidget& widget, const QRect& area) {
+  const qreal scale = widget.devicePixelRatioF();
+  return QRectF(QPointF(area.topLeft()) * scale, QSizeF(area.size()) * scale).toAlignedRect();
+}
+
+QPoint DevicePixels(const QWidget& widget, const QPointF& point) {
+  const QPointF exact = point * widget.devicePixelRatioF();
+  return {qFloor(exact.x()), qFloor(exact.y())};
+}
+
+void PaintPicture(QPainter& painter, const IndexedImage& picture, double zoom, QPoint corner,
+                  const QRect& exposed) {
+  const QRect whole(corner,
+                    QSize(ZoomedSide(picture.width(), zoom), ZoomedSide(picture.height(), zoom)));
+  const QRect part = whole & exposed;
+  if (part.isEmpty()) return;
+  QImage shown(part.size(), QImage::Format_RGB32);
+  if (shown.isNull()) return;
+  const PixelRect area{part.left() - corner.x(), part.top() - corner.y(),
+                       part.right() + 1 - corner.x(), part.bottom() + 1 - corner.y()};
+  RenderZoomed(picture, zoom, area,
+               {reinterpret_cast<std::uint32_t*>(shown.bits()),
+                static_cast<std::size_t>(shown.sizeInBytes()) / sizeof(std::uint32_t)});
+  painter.drawImage(part.topLeft(), shown);
+}
+
+QImage ToImage(const IndexedImage& picture) {
+  QImage image(picture.width(), picture.height(), QImage::Format_Indexed8);
+  if (image.isNull()) return image;
+  QList<QRgb> colours;
+  for (int i = 0; i < 256; ++i) {
+    const Rgb colour = picture.palette()[i];
+    colours << qRgb(colour.red, colour.green, colour.blue);
+  }
+  image.setColorTable(colours);
+  for (int y = 0; y < picture.height(); ++y) {
+    const auto row = picture.Row(y);
+    std::memcpy(image.scanLine(y), row.data(), row.size());
+  }
+  return image;
+}
+
+QPixmap ToPixmap(const IndexedImage& picture, qreal scaleFactor) {
+  QPixmap pixmap = QPixmap::fromImage(ToImage(picture));
+  pixmap.setDevicePixelRatio(scaleFactor);
+  return pixmap;
+}
+
+}  // namespace plenovia

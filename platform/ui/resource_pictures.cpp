@@ -1,0 +1,55 @@
+#include "platform/ui/resource_pictures.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QPixmap>
+#include <QPoint>
+#include <QSvgRenderer>
+
+namespace plenovia {
+
+namespace {
+
+constexpr int kCursorSide = 32;
+
+// On the grid of the drawings.
+QPoint HotSpot(int id) {
+  switch (id) {
+    case 1250:
+      return {16, 16};
+    case 1251:
+      return {9, 2};
+    case 1252:
+      return {16, 16};
+    case 1253:
+      return {3, 28};
+    default:
+      return {8, 8};
+  }
+}
+
+}  // namespace
+
+QIcon ButtonPicture(int command) {
+  const QString file = QStringLiteral(":/buttons/%1.svg").arg(command);
+  return QFile::exists(file) ? QIcon(file) : QIcon();
+}
+
+QIcon NamedIcon(const QString& name) {
+  return QIcon(QStringLiteral(":/icons/%1.svg").arg(name));
+}
+
+QCursor CursorById(int id, qreal scaleFactor) {
+  const QString file = QStringLiteral(":/cursors/%1.svg").arg(id);
+  if (!QFile::exists(file)) return QCursor(Qt::ArrowCursor);
+  QPixmap picture(QSize(kCursorSide, kCursorSide) * scaleFactor);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  QSvgRenderer(file).render(&painter);
+  painter.end();
+  picture.setDevicePixelRatio(scaleFactor);
+  const QPoint hot = HotSpot(id);
+  return QCursor(picture, hot.x(), hot.y());
+}
+
+}  // namespace plenovia

@@ -1,0 +1,21 @@
+// Icons, button pictures and cursors by the numbers and names under which the program knows them.
+#pragma once
+
+#include <QCursor>
+#include <QIcon>
+#include <QString>
+
+namespace plenovia {
+
+// The face of the button of a command; an empty icon when there is none.
+QIcon ButtonPicture(int command);
+// "i1" the program, "i2" a picture window, "i3" a depth map.
+QIcon NamedIcon(const QString& name);
+
+inline constexpr int kBusyCursor = 1250;
+inline constexpr int kNormalCursor = 1251;
+
+// Cursors 1250 to 1261, drawn for a display with this scale factor; the arrow for other numbers.
+QCursor CursorById(int id, qreal scaleFactor);
+
+}  // namespace plenovia

@@ -1,0 +1,25 @@
+#include "platform/ui/text.h"
+
+#include <QFile>
+#include <algorithm>
+
+namespace plenovia {
+
+QString ToQString(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+QString ToQString(const std::filesystem::path& path) {
+  return QFile::decodeName(path.native().c_str());
+}
+
+std::filesystem::path ToPath(const QString& path) {
+  return {QFile::encodeName(path).toStdString()};
+}
+
+QString BaseNameTitle(const QString& path) {
+  const qsizetype cut = std::max(path.lastIndexOf(u'/'), path.lastIndexOf(u'\\'));
+  return (cut > 0 ? path.mid(cut + 1) : path).toLower();
+}
+
+}  // namespace plenovia

@@ -1,0 +1,18 @@
+// Texts and paths between Qt and the cores.
+#pragma once
+
+#include <QString>
+#include <filesystem>
+#include <string_view>
+
+namespace plenovia {
+
+QString ToQString(std::string_view utf8);
+QString ToQString(const std::filesystem::path& path);
+std::filesystem::path ToPath(const QString& path);
+
+// What is behind the last slash or backslash of a path, in lower case; the whole path when its only
+// one is its first character. Titles of document windows are made this way.
+QString BaseNameTitle(const QString& path);
+
+}  // namespace plenovia

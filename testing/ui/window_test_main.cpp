@@ -1,0 +1,23 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QString>
+#include <cstdio>
+
+namespace {
+
+// Warnings of Qt's tell of our own mistakes: each fails the test that runs.
+void FailOnWarnings(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  std::fprintf(stderr, "Qt: %s\n", qUtf8Printable(text));
+  if (type != QtDebugMsg && type != QtInfoMsg) ADD_FAILURE() << "Qt: " << qUtf8Printable(text);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  qInstallMessageHandler(FailOnWarnings);
+  return RUN_ALL_TESTS();
+}
