@@ -95,7 +95,13 @@ Result<void> TGraphIO::Write_File(const std::filesystem::path& path,
 }
 
 BitmapInfo TGraphIO::GetBitmapInfo(const IndexedImage& picture) {
-  return {picture.width(), picture.height(), (picture.width() + 3) / 4 * 4};
+  BitmapInfo info;
+  info.width = picture.width();
+  info.height = picture.height();
+  info.bitsPerPixel = 1;
+  while ((1 << info.bitsPerPixel) < picture.palette().size()) info.bitsPerPixel *= 2;
+  info.bytesPerRow = (picture.width() * info.bitsPerPixel + 31) / 32 * 4;
+  return info;
 }
 
 std::string TGraphIO::GetVersionString() {

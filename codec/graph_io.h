@@ -27,7 +27,7 @@ struct BitmapInfo {
   int height = 0;
   int bytesPerRow = 0;  // a multiple of 4
   int planes = 1;
-  int bitsPerPixel = 8;
+  int bitsPerPixel = 8;  // 1, 2, 4 or 8: the fewest that tell all colours of the palette apart
 };
 
 // One reading or writing of a picture file.

@@ -1,0 +1,32 @@
+#include "engine/caption.h"
+
+#include <cstddef>
+
+namespace plenovia {
+
+namespace {
+
+constexpr Rgb kYellow{255, 255, 0};
+constexpr Rgb kNavy{0, 0, 128};
+
+void DrawDots(IndexedImage& picture, const TextDots& text, int left, int top, Rgb colour) {
+  const std::uint8_t index = picture.palette().Nearest(colour);
+  for (int y = 0; y < text.height; ++y) {
+    if (top + y < 0 || top + y >= picture.height()) continue;
+    const auto row = picture.Row(top + y);
+    for (int x = 0; x < text.width && left + x < picture.width(); ++x) {
+      const auto dot = static_cast<std::size_t>(y) * static_cast<std::size_t>(text.width) +
+                       static_cast<std::size_t>(x);
+      if (text.dots[dot] != 0) row[static_cast<std::size_t>(left + x)] = index;
+    }
+  }
+}
+
+}  // namespace
+
+void DrawCaption(IndexedImage& picture, const TextDots& text) {
+  DrawDots(picture, text, 9, picture.height() - 21, kYellow);
+  DrawDots(picture, text, 10, picture.height() - 20, kNavy);
+}
+
+}  // namespace plenovia

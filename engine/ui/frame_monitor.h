@@ -1,0 +1,31 @@
+// The line from a generation run to the main frame.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "engine/run_monitor.h"
+
+namespace plenovia {
+
+// Sends the run's progress as WM_PROGRESS, keeps the windows alive between bands and notices when
+// the run shall stop.
+class FrameMonitor final : public RunMonitor {
+ public:
+  explicit FrameMonitor(QWidget* frame) : frame_(frame) {}
+
+  // Sounds when the run is stopped.
+  void BeepOnStop() { beeps_ = true; }
+  // Has the status bar refreshed once the run has begun.
+  void UpdateStatusAtStart() { updatesStatus_ = true; }
+
+  void OnProgress(ProgressPhase phase, const ProgressInfo& progress) override;
+  bool StopRequested() override;
+
+ private:
+  QPointer<QWidget> frame_;
+  bool beeps_ = false;
+  bool updatesStatus_ = false;
+};
+
+}  // namespace plenovia

@@ -1,0 +1,172 @@
+#include "images/ui/picture_wnd.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "images/gray_palette.h"
+#include "platform/ui/picture_painting.h"
+#include "platform/ui/private_message.h"
+#include "platform/ui/resource_pictures.h"
+#include "platform/ui/text.h"
+#include "platform/zoomed_picture.h"
+
+namespace plenovia {
+
+namespace {
+
+constexpr int kRoomAroundPicture = 30;
+
+}  // namespace
+
+TPictureWnd::TPictureWnd(QMdiArea* client, const QString& title, QWidget* frame,
+                         std::shared_ptr<const IndexedImage> picture, const QSize& size)
+    : TMouseWnd(client, title, frame), picture_(std::move(picture)), size_(size) {
+  SetWindowKind(kPictureWindow);
+  setWindowIcon(NamedIcon(QStringLiteral("i2")));
+  SetTitle(title);
+  SetWindowSize(size + QSize(kRoomAroundPicture, kRoomAroundPicture));
+  UpdateScrolling();
+}
+
+void TPictureWnd::SetTitle(const QString& path) {
+  title_ = BaseNameTitle(path);
+  setWindowTitle(title_);
+}
+
+void TPictureWnd::SetSaved(bool saved) {
+  saved_ = saved;
+  Q_EMIT StateChanged();
+}
+
+void TPictureWnd::SetImage(std::shared_ptr<const IndexedImage> picture) {
+  picture_ = std::move(picture);
+  if (picture_) {
+    size_ = {picture_->width(), picture_->height()};
+    FitToImage();
+  }
+  UpdateScrolling();
+  Q_EMIT StateChanged();
+}
+
+void TPictureWnd::FitToImage() {
+  if (!isMaximized() && !isMinimized()) SetClientSize(size_);
+}
+
+void TPictureWnd::ZoomIn() {
+  if (CanZoomIn()) SetZoom(zoom_ * 2);
+}
+
+void TPictureWnd::ZoomOut() {
+  if (CanZoomOut()) SetZoom(zoom_ * 0.5);
+}
+
+void TPictureWnd::SetZoom(double zoom) {
+  zoom_ = zoom;
+  UpdateScrolling();
+  Q_EMIT StateChanged();
+}
+
+void TPictureWnd::MakeGray() {
+  if (!picture_) return;
+  auto gray = std::make_shared<IndexedImage>(*picture_);
+  gray->SetPalette(GrayPalette(gray->palette()));
+  picture_ = std::move(gray);
+  InvalidateAll();
+}
+
+BitmapInfo TPictureWnd::Description() const {
+  return picture_ ? TGraphIO::GetBitmapInfo(*picture_) : BitmapInfo{};
+}
+
+std::int64_t TPictureWnd::ImageBytes() const {
+  const BitmapInfo info = Description();
+  return std::int64_t{info.bytesPerRow} * info.height;
+}
+
+QRect TPictureWnd::Selection() const {
+  if (!picture_) return {};
+  const QRect whole({}, size_);
+  return Tracking().IsEmpty() ? whole : Tracking().Normalised() & whole;
+}
+
+QSize TPictureWnd::ZoomedSize() const {
+  return {ZoomedSide(size_.width(), zoom_), ZoomedSide(size_.height(), zoom_)};
+}
+
+QPoint TPictureWnd::Corner() const {
+  QPoint corner = -ScrollPosition();
+  if (isMaximized()) {
+    const QSize room = (ClientSize() - ZoomedSize()) / 2;
+    corner += {std::max(0, room.width()), std::max(0, room.height())};
+  }
+  return corner;
+}
+
+QPoint TPictureWnd::TrackingPoint(const QPoint& client) const {
+  const QPoint place = client - Corner();
+  return {UnzoomedPosition(place.x(), zoom_), UnzoomedPosition(place.y(), zoom_)};
+}
+
+QRect TPictureWnd::SelectionFrame() const {
+  const QRect selected = Tracking().Normalised();
+  const auto zoomed = [this](int position) { return static_cast<int>(position * zoom_); };
+  const QPoint first(zoomed(selected.left()), zoomed(selected.top()));
+  const QPoint last(zoomed(selected.right() + 1) - 1, zoomed(selected.bottom() + 1) - 1);
+  return QRect(first, last).translated(Corner());
+}
+
+void TPictureWnd::Paint(QPainter& painter, const QRect& exposed) {
+  if (isMaximized()) painter.fillRect(exposed, Qt::black);
+  if (!picture_) return;
+  PaintPicture(painter, *picture_, zoom_, Corner(), exposed);
+  if (!Tracking().IsEmpty()) PaintSelection(painter);
+}
+
+void TPictureWnd::PaintSelection(QPainter& painter) const {
+  const QRect frame = SelectionFrame();
+  const QRect sides[] = {QRect(frame.left(), frame.top(), frame.width(), 1),
+                         QRect(frame.left(), frame.bottom(), frame.width(), 1),
+                         QRect(frame.left(), frame.top(), 1, frame.height()),
+                         QRect(frame.right(), frame.top(), 1, frame.height())};
+  for (const QRect& side : sides) {
+    // On white, the hatching shows on dark pictures too.
+    painter.fillRect(side, Qt::white);
+    painter.fillRect(side, QBrush(Qt::black, Qt::BDiagPattern));
+  }
+}
+
+void TPictureWnd::UpdateScrolling() {
+  SetScrollExtent(picture_ ? ZoomedSize() : QSize());
+}
+
+void TPictureWnd::ClientResized() {
+  InvalidateAll();
+}
+
+void TPictureWnd::EvMDIActivate(bool active) {
+  if (active) PostPrivateMessage(this, WM_REFRESHSELF);
+}
+
+void TPictureWnd::OnLButtonDown(MouseKeys, QPoint) {
+  PostPrivateMessage(this, WM_REFRESHSELF);
+}
+
+void TPictureWnd::LeftDrag(int x, int y) {
+  Invalidate(SelectionFrame().adjusted(-1, -1, 1, 1));
+  UpdateTrack(x, y);
+  Invalidate(SelectionFrame().adjusted(-1, -1, 1, 1));
+}
+
+void TPictureWnd::customEvent(QEvent* event) {
+  if (event->type() != PrivateMessage::EventType()) return;
+  if (static_cast<PrivateMessage*>(event)->number() != WM_REFRESHSELF) return;
+  InvalidateAll();
+  if (picture_) SendPrivateMessage(Frame(), PrivateMessage(WM_UPDATESTATUS));
+}
+
+void TPictureWnd::changeEvent(QEvent* event) {
+  TMouseWnd::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) UpdateScrolling();
+}
+
+}  // namespace plenovia
