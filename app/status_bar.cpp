@@ -1,0 +1,110 @@
+#include "app/status_bar.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+
+#include "app/elided_label.h"
+
+namespace plenovia {
+
+namespace {
+
+constexpr QSize kGaugeSize(110, 15);
+constexpr int kGaugeLeft = 5;
+constexpr int kFieldMargin = 4;
+
+}  // namespace
+
+TCStatusBar::TCStatusBar(QWidget* parent)
+    : QStatusBar(parent), gauge_(new QProgressBar), message_(new ElidedLabel) {
+  auto* area = new QWidget;
+  auto* row = new QHBoxLayout(area);
+  row->setContentsMargins(kGaugeLeft, 0, 0, 0);
+  row->addWidget(gauge_);
+  row->addWidget(message_, 1);
+  addWidget(area, 1);
+  gauge_->setObjectName(QStringLiteral("gauge"));
+  gauge_->setFixedSize(kGaugeSize);
+  gauge_->setTextVisible(false);
+  gauge_->setValue(0);
+  message_->setObjectName(QStringLiteral("message"));
+  imageField_ = AddField(QStringLiteral("image"));
+  freeField_ = AddField(QStringLiteral("free"));
+  FitFields();
+}
+
+QLabel* TCStatusBar::AddField(const QString& name) {
+  auto* field = new QLabel;
+  field->setObjectName(name);
+  field->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+  field->setMargin(1);
+  field->setIndent(kFieldMargin);
+  addPermanentWidget(field);
+  return field;
+}
+
+void TCStatusBar::FitFields() {
+  for (QLabel* field : {imageField_, freeField_}) {
+    const int text = field->fontMetrics().horizontalAdvance(tr("Image: 32459 Kb"));
+    field->setMinimumWidth(text + 2 * (kFieldMargin + field->frameWidth() + field->margin()));
+  }
+}
+
+void TCStatusBar::SetMessage(const QString& text) {
+  text_ = text;
+  ShowText();
+}
+
+void TCStatusBar::SetHint(const QString& text) {
+  if (text.isEmpty()) {
+    ClearHint();
+    return;
+  }
+  hint_ = text;
+  gaugeShown_ = !gaugeShown_;
+  gauge_->hide();
+  ShowText();
+}
+
+void TCStatusBar::ClearHint() {
+  hint_.clear();
+  gaugeShown_ = !gaugeShown_;
+  gauge_->show();
+  ShowText();
+}
+
+void TCStatusBar::ShowText() {
+  message_->SetText(hint_.isEmpty() ? text_ : hint_);
+}
+
+void TCStatusBar::SetProgress(int percent) {
+  if (!gaugeShown_) {
+    gaugeShown_ = true;
+    gauge_->show();
+  }
+  gauge_->setValue(percent);
+  RepaintNow();
+}
+
+void TCStatusBar::SetImageText(const QString& text) {
+  imageField_->setText(text);
+  RepaintNow();
+}
+
+void TCStatusBar::SetFreeText(const QString& text) {
+  freeField_->setText(text);
+  RepaintNow();
+}
+
+void TCStatusBar::RepaintNow() {
+  layout()->activate();
+  message_->parentWidget()->layout()->activate();
+  repaint();
+}
+
+void TCStatusBar::changeEvent(QEvent* event) {
+  QStatusBar::changeEvent(event);
+  if (event->type() == QEvent::FontChange) FitFields();
+}
+
+}  // namespace plenovia
