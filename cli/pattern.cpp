@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
-#include <system_error>
+#include <optional>
 
 #include "cli/source.h"
 #include "images/pattern_files.h"
@@ -24,12 +24,12 @@ Outcome<IndexedImage> OpenPattern(const std::string& text) {
   if (!folder) return tl::unexpected(folder.error());
   int number = -1;
   std::from_chars(text.data(), text.data() + text.size(), number);
-  const fs::path file = *folder / PatternFileName(number);
-  std::error_code ignored;
-  if (number < 0 || !fs::exists(file, ignored)) {
+  const auto file =
+      number < 0 ? std::nullopt : FindPatternFile(number, *folder, UserPatternFolder());
+  if (!file) {
     return WrongUsage("there is no pattern " + text + "; 'sirds patterns' lists them");
   }
-  return ReadPicture(file.string());
+  return ReadPicture(file->string());
 }
 
 }  // namespace plenovia

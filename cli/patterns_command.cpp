@@ -1,5 +1,4 @@
 #include <CLI/CLI.hpp>
-#include <filesystem>
 #include <string>
 
 #include "cli/commands.h"
@@ -14,19 +13,17 @@ namespace {
 Outcome<void> ListPatterns() {
   const auto folder = PatternFolder();
   if (!folder) return tl::unexpected(folder.error());
-  constexpr int kShipped = 20;
   std::string lines;
-  for (int number = 0;; ++number) {
-    const std::string name = PatternFileName(number);
-    std::error_code ignored;
-    if (!std::filesystem::exists(*folder / name, ignored)) {
-      if (number < kShipped) continue;
+  for (int number = 0; number < kMostPatternFiles; ++number) {
+    const auto file = FindPatternFile(number, *folder, UserPatternFolder());
+    if (!file) {
+      if (number < kShippedPatterns) continue;
       break;
     }
-    const auto tile = ReadPicture((*folder / name).string());
+    const auto tile = ReadPicture(file->string());
     if (!tile) return tl::unexpected(tile.error());
-    lines += std::to_string(number) + '\t' + name + '\t' + std::to_string(tile->width()) + 'x' +
-             std::to_string(tile->height()) + '\n';
+    lines += std::to_string(number) + '\t' + PatternFileName(number) + '\t' +
+             std::to_string(tile->width()) + 'x' + std::to_string(tile->height()) + '\n';
   }
   return Print(lines);
 }

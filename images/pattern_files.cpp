@@ -1,6 +1,10 @@
 #include "images/pattern_files.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <system_error>
+
+#include "platform/leading_number.h"
 
 namespace plenovia {
 
@@ -24,6 +28,41 @@ std::optional<fs::path> FindPatternFolder(const fs::path& program) {
     if (holdsPatterns(above.parent_path() / name)) return above.parent_path() / name;
   }
   return std::nullopt;
+}
+
+fs::path UserPatternFolder() {
+  const auto folderOf = [](const char* variable) {
+    const char* value = std::getenv(variable);
+    const fs::path folder = value == nullptr ? "" : value;
+    return folder.is_absolute() ? folder : fs::path();
+  };
+  fs::path data = folderOf("XDG_DATA_HOME");
+  if (data.empty() && !folderOf("HOME").empty()) data = folderOf("HOME") / ".local" / "share";
+  return data.empty() ? data : data / "plenovia" / "sirdspat";
+}
+
+std::optional<fs::path> FindPatternFile(int number, const fs::path& folder,
+                                        const fs::path& userFolder) {
+  for (const fs::path& home : {folder, userFolder}) {
+    std::error_code ignored;
+    const fs::path file = home / PatternFileName(number);
+    if (!home.empty() && fs::is_regular_file(file, ignored)) return file;
+  }
+  return std::nullopt;
+}
+
+std::vector<int> PatternNumbersIn(const fs::path& folder) {
+  std::vector<int> numbers;
+  std::error_code failed;
+  for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
+       entry.increment(failed)) {
+    const std::string name = entry->path().filename();
+    const int number = name.starts_with("pat") ? LeadingNumber(name.substr(3)) : -1;
+    if (number < 0 || number >= kMostPatternFiles) continue;
+    if (name == PatternFileName(number)) numbers.push_back(number);
+  }
+  std::sort(numbers.begin(), numbers.end());
+  return numbers;
 }
 
 fs::path ProgramFile() {

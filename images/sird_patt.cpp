@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "codec/gif_intf.h"
 #include "images/pattern_files.h"
@@ -12,6 +13,17 @@ namespace {
 
 TPattObj* NextOf(TPattObj* entry) {
   return static_cast<TPattObj*>(entry->GetNext());
+}
+
+std::vector<std::filesystem::path> FilesToTry(const std::filesystem::path& directory,
+                                              const std::filesystem::path& userFolder, int count) {
+  const std::vector<int> added = PatternNumbersIn(userFolder);
+  const int shipped = std::max(std::min(count, kMostPatternFiles) - static_cast<int>(added.size()),
+                               kShippedPatterns);
+  std::vector<std::filesystem::path> files;
+  for (int n = 0; n < shipped; ++n) files.push_back(directory / PatternFileName(n));
+  for (const int n : added) files.push_back(userFolder / PatternFileName(n));
+  return files;
 }
 
 }  // namespace
@@ -78,16 +90,16 @@ const Palette* TSirdPatt::GetCurrentPalette() const {
   return current_ == nullptr ? nullptr : &current_->GetBitmap()->palette();
 }
 
-TSirdPatt LoadPatterns(const std::filesystem::path& directory, int start, int count,
+TSirdPatt LoadPatterns(const std::filesystem::path& directory,
+                       const std::filesystem::path& userFolder, int start, int count,
                        const PatternProgress& progress) {
-  constexpr int kShipped = 20;
-  constexpr int kMost = 10000;  // a number from a damaged settings file must not keep us for hours
   TSirdPatt library(directory);
-  count = std::clamp(count, kShipped, kMost);
-  for (int number = 0; number < count; ++number) {
-    const bool loaded = library.LoadPatternFile(PatternFileName(number)).has_value();
+  const std::vector<std::filesystem::path> files = FilesToTry(directory, userFolder, count);
+  const int all = static_cast<int>(files.size());
+  for (int tried = 0; tried < all; ++tried) {
+    const bool loaded = library.LoadPatternFile(files[static_cast<std::size_t>(tried)]).has_value();
     if (!loaded) start = 0;
-    if (progress) progress(number + 1, count, loaded);
+    if (progress) progress(tried + 1, all, loaded);
   }
   library.SelectPattern(start);
   return library;

@@ -49,10 +49,12 @@ class TSirdPatt {
 // whether this one was loaded.
 using PatternProgress = std::function<void(int done, int count, bool loaded)>;
 
-// The library of the files 0..count-1 of the directory, 20 to 10000 of them. Files that are missing
-// or cannot be read are passed over; when there was one, the first pattern becomes current, else
-// the one at `start`.
-TSirdPatt LoadPatterns(const std::filesystem::path& directory, int start, int count,
+// The library of the directory's files and, after them, of all that lie in the user's folder:
+// `count` files in all (at most 10000), but never less than 20 of the directory, from number 0 on.
+// Files that are missing or cannot be read are passed over; when there was one, the first pattern
+// becomes current, else the one at `start`.
+TSirdPatt LoadPatterns(const std::filesystem::path& directory,
+                       const std::filesystem::path& userFolder, int start, int count,
                        const PatternProgress& progress = {});
 
 }  // namespace plenovia

@@ -30,13 +30,15 @@ class PatternFolder : public testing::Test {
   }
   TSirdPatt Load(int start, int count) {
     tried_ = 0;
-    return LoadPatterns(folder_.path(), start, count, [this](int done, int all, bool) {
-      EXPECT_EQ(done, ++tried_);
-      EXPECT_LE(done, all);
-    });
+    return LoadPatterns(folder_.path(), user_.path(), start, count,
+                        [this](int done, int all, bool) {
+                          EXPECT_EQ(done, ++tried_);
+                          EXPECT_LE(done, all);
+                        });
   }
 
   TempFolder folder_;
+  TempFolder user_;
   int tried_ = 0;
 };
 
