@@ -1,0 +1,50 @@
+// The "SIRDS Settings" dialog.
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "engine/sirds_settings.h"
+
+namespace plenovia {
+
+// Edits the record that it was given: when OK is pressed, and as soon as "Restore Defaults" is
+// checked. While that box is checked OK leaves the record as it is.
+class TSettDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  // `settings` outlives the dialog.
+  TSettDialog(QWidget* parent, TSirdsSettings& settings);
+
+  void accept() override;
+
+ private:
+  QGroupBox* MakeParameters();
+  QGroupBox* MakeOptions();
+  // Fills the controls from the record.
+  void SetupWindow();
+  void RestoreClicked(bool checked);
+
+  TSirdsSettings& settings_;
+  QLineEdit* width_;
+  QLineEdit* height_;
+  QLineEdit* gap_;
+  QLineEdit* dx_;
+  QLineEdit* dy_;
+  QLineEdit* da_;
+  QLineEdit* zmin_;
+  QLineEdit* zmax_;
+  QCheckBox* markers_;
+  QCheckBox* useBitmap_;
+  QRadioButton* byColor_;
+  QRadioButton* byBrightness_;
+  QComboBox* scanMethod_;
+  QCheckBox* restore_;
+};
+
+}  // namespace plenovia
