@@ -15,9 +15,12 @@ namespace {
 constexpr int kBorder = 2;
 constexpr int kNumberHeight = 9;
 constexpr qreal kGrayedOpacity = 0.35;
+constexpr float kPressedOpacity = 0.35F;
 
+// Of the same size in pixels, whatever scale factor the face is made for.
 QImage WithoutColour(const QPixmap& face) {
-  const QImage coloured = face.toImage().convertToFormat(QImage::Format_ARGB32);
+  QImage coloured = face.toImage().convertToFormat(QImage::Format_ARGB32);
+  coloured.setDevicePixelRatio(1);
   QImage gray = coloured.convertToFormat(QImage::Format_Grayscale8);
   gray = gray.convertToFormat(QImage::Format_ARGB32);
   gray.setAlphaChannel(coloured.convertToFormat(QImage::Format_Alpha8));
@@ -68,6 +71,11 @@ void BarButton::paintEvent(QPaintEvent*) {
   option.text.clear();
   QStylePainter painter(this);
   painter.drawComplexControl(QStyle::CC_ToolButton, option);
+  if (isChecked() && isEnabled()) {
+    QColor pressed = palette().color(QPalette::Highlight);
+    pressed.setAlphaF(kPressedOpacity);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), pressed);
+  }
 
   const QSize size(pictureSize_, pictureSize_);
   const QPixmap face =

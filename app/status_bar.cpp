@@ -11,7 +11,7 @@ namespace {
 
 constexpr QSize kGaugeSize(110, 15);
 constexpr int kGaugeLeft = 5;
-constexpr int kFieldMargin = 4;
+constexpr int kFieldMargin = 3;
 
 }  // namespace
 
@@ -36,9 +36,8 @@ TCStatusBar::TCStatusBar(QWidget* parent)
 QLabel* TCStatusBar::AddField(const QString& name) {
   auto* field = new QLabel;
   field->setObjectName(name);
-  field->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-  field->setMargin(1);
-  field->setIndent(kFieldMargin);
+  field->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  field->setMargin(kFieldMargin);
   addPermanentWidget(field);
   return field;
 }
@@ -46,7 +45,7 @@ QLabel* TCStatusBar::AddField(const QString& name) {
 void TCStatusBar::FitFields() {
   for (QLabel* field : {imageField_, freeField_}) {
     const int text = field->fontMetrics().horizontalAdvance(tr("Image: 32459 Kb"));
-    field->setMinimumWidth(text + 2 * (kFieldMargin + field->frameWidth() + field->margin()));
+    field->setMinimumWidth(text + 2 * (kFieldMargin + field->frameWidth()));
   }
 }
 
