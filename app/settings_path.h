@@ -6,7 +6,7 @@
 namespace plenovia {
 
 // "plenovia/PLENOVIA.INI" in the user's configuration folder ($XDG_CONFIG_HOME). The folder is made
-// when the file is saved.
+// when it is not there.
 std::filesystem::path SettingsPath();
 
 }  // namespace plenovia

@@ -20,6 +20,7 @@ class TCStatusBar : public QStatusBar {
   explicit TCStatusBar(QWidget* parent);
 
   void SetMessage(const QString& text);
+  const QString& Message() const { return text_; }
   // Shows a hint and hides the gauge. An empty text clears the hint, as ClearHint() does.
   void SetHint(const QString& text);
   // Shows the message again, and the gauge.
@@ -28,6 +29,7 @@ class TCStatusBar : public QStatusBar {
   void SetProgress(int percent);
   // The two fields. Repaint at once.
   void SetImageText(const QString& text);
+  QString ImageText() const { return imageField_->text(); }
   void SetFreeText(const QString& text);
   // Paints what was changed, before it returns.
   void RepaintNow();

@@ -35,6 +35,20 @@ function(plenovia_executable name)
   target_link_libraries(${name} PRIVATE ${arg_LINK} plenovia_warnings plenovia_sanitizers)
 endfunction()
 
+# plenovia_program(NAME)
+#
+# Makes an executable one of the programs that are installed. The build tree is laid out as the
+# installation, so one path to the figure library fits both.
+function(plenovia_program name)
+  file(RELATIVE_PATH library_from_program
+    ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+  set_target_properties(${name} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}
+    BUILD_WITH_INSTALL_RPATH ON
+    INSTALL_RPATH "$ORIGIN/${library_from_program}")
+  install(TARGETS ${name})
+endfunction()
+
 # plenovia_test(NAME SOURCES ... LINK ...)
 #
 # Makes the GoogleTest program NAME of one room and registers it with CTest. It links that room

@@ -29,7 +29,10 @@ void TMouseWnd::ClientView::SetScrollExtent(const QSize& extent) {
 }
 
 void TMouseWnd::ClientView::UpdateRanges() {
-  const QSize client = DevicePixels(*viewport());
+  // What fits when both bars are gone needs none, though it does not fit beside them.
+  const QSize most = DevicePixels(*this, QRect(QPoint(), maximumViewportSize())).size();
+  const bool fits = extent_.width() <= most.width() && extent_.height() <= most.height();
+  const QSize client = fits ? most : DevicePixels(*viewport());
   const auto update = [](QScrollBar* bar, int extent, int page) {
     bar->setRange(0, std::max(0, extent - page));
     bar->setPageStep(page);

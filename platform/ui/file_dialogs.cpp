@@ -6,6 +6,12 @@ namespace plenovia {
 
 namespace {
 
+// "gif" for an entry "GIF Files (*.GIF *.gif)".
+QString ExtensionOf(const QString& entry) {
+  const qsizetype dot = entry.lastIndexOf(u'.');
+  return dot < 0 ? QString() : entry.mid(dot + 1, entry.lastIndexOf(u')') - dot - 1);
+}
+
 std::optional<QString> Ask(QFileDialog& dialog, const FileQuestion& question) {
   const QStringList entries = FilterEntries(question.filters);
   dialog.setNameFilters(entries);
@@ -42,6 +48,9 @@ std::optional<QString> AskOpenFile(QWidget* owner, const FileQuestion& question)
 std::optional<QString> AskSaveFile(QWidget* owner, const FileQuestion& question) {
   QFileDialog dialog(owner, question.title);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& entry) {
+    dialog.setDefaultSuffix(ExtensionOf(entry));
+  });
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   return Ask(dialog, question);

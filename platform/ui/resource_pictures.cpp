@@ -16,13 +16,14 @@ constexpr int kCursorSide = 32;
 QPoint HotSpot(int id) {
   switch (id) {
     case 1250:
+    case 1255:
       return {16, 16};
     case 1251:
-      return {9, 2};
-    case 1252:
-      return {16, 16};
+      return {8, 2};
     case 1253:
-      return {3, 28};
+      return {2, 22};
+    case 1254:
+      return {16, 24};
     default:
       return {8, 8};
   }

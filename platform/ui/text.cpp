@@ -9,7 +9,7 @@ QString ToQString(std::string_view utf8) {
   return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
-QString ToQString(const std::filesystem::path& path) {
+QString PathToQString(const std::filesystem::path& path) {
   return QFile::decodeName(path.native().c_str());
 }
 

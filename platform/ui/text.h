@@ -8,7 +8,7 @@
 namespace plenovia {
 
 QString ToQString(std::string_view utf8);
-QString ToQString(const std::filesystem::path& path);
+QString PathToQString(const std::filesystem::path& path);
 std::filesystem::path ToPath(const QString& path);
 
 // What is behind the last slash or backslash of a path, in lower case; the whole path when its only
