@@ -44,6 +44,7 @@ TDepthList& TDepthList::operator=(TDepthList&& other) noexcept {
   std::swap(selected_, other.selected_);
   std::swap(owner_, other.owner_);
   std::swap(currentLevel_, other.currentLevel_);
+  std::swap(edition_, other.edition_);
   std::swap(saved_, other.saved_);
   std::swap(width_, other.width_);
   std::swap(height_, other.height_);
@@ -90,6 +91,7 @@ const TDepthObj* TDepthList::ObjectAt(std::int32_t x, std::int32_t y) const {
 
 // The same object, to be changed; null when it is not one of the list's.
 TDepthObj* TDepthList::Own(const TDepthObj* object) {
+  if (object == selected_) return selected_;
   TDepthObj* own = head_;
   while (own != nullptr && own != object) own = NextOf(own);
   return own;
@@ -97,6 +99,7 @@ TDepthObj* TDepthList::Own(const TDepthObj* object) {
 
 void TDepthList::Changed() {
   rows_->Forget();
+  ++edition_;
   saved_ = false;
 }
 
@@ -114,6 +117,7 @@ void TDepthList::Select(const TDepthObj* object) {
   TDepthObj* own = Own(object);
   if (own == nullptr && object != nullptr) return;
   TDepthObj* before = std::exchange(selected_, own);
+  ++edition_;
   if (before != nullptr) before->Invalidate();
   if (selected_ != nullptr) selected_->Invalidate();
 }

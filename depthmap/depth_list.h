@@ -70,6 +70,10 @@ class TDepthList final : public LevelGrid {
   // Has the object's area repainted.
   void Invalidate(const TDepthObj* object);
 
+  // A number that another one replaces with every change of this list, other than those of the
+  // selected object's place on the map.
+  std::uint64_t Edition() const { return edition_; }
+
   // The map's size in pixels: as made, or that of the last object when it was read from a file.
   std::int64_t GetWidth() const { return width_; }
   std::int64_t GetHeight() const { return height_; }
@@ -93,6 +97,7 @@ class TDepthList final : public LevelGrid {
   TDepthObj* selected_ = nullptr;
   DepthObjOwner* owner_ = nullptr;
   std::int32_t currentLevel_ = 0;
+  std::uint64_t edition_ = 0;
   bool saved_ = false;
   std::int64_t width_ = 0;
   std::int64_t height_ = 0;

@@ -8,7 +8,7 @@ namespace plenovia {
 
 namespace {
 
-constexpr int kRoomAround = 4;  // pixels that selection marks and label need
+constexpr int kRoomAround = 4;  // pixels that selection marks need
 
 std::int32_t Saturate(std::int64_t value) {
   return static_cast<std::int32_t>(std::clamp<std::int64_t>(
@@ -19,6 +19,15 @@ std::int32_t Saturate(std::int64_t value) {
 
 PixelRect DepthRect::Normalised() const {
   return {std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2)};
+}
+
+DepthRect DepthRect::Shifted(std::int64_t right, std::int64_t down) const {
+  constexpr std::int64_t kLow = std::numeric_limits<std::int32_t>::min();
+  constexpr std::int64_t kHigh = std::numeric_limits<std::int32_t>::max();
+  const PixelRect box = Normalised();
+  right = std::clamp(right, kLow - box.left, kHigh - box.right);
+  down = std::clamp(down, kLow - box.top, kHigh - box.bottom);
+  return {Saturate(x1 + right), Saturate(y1 + down), Saturate(x2 + right), Saturate(y2 + down)};
 }
 
 TDepthObj::TDepthObj(DepthObjOwner* owner, const DepthRect& rect, DepthObjKind kind,
@@ -111,8 +120,8 @@ void TDepthObj::Invalidate() {
   if (kind_ == PolygonObj) UpdateBounds();
   if (owner_ == nullptr) return;
   const PixelRect box = rect_.Normalised();
-  owner_->Repaint(GetRegion(), {box.left - kRoomAround, box.top - kRoomAround,
-                                box.right + kRoomAround, box.bottom + kRoomAround});
+  owner_->Repaint({box.left - kRoomAround, box.top - kRoomAround, box.right + kRoomAround,
+                   box.bottom + kRoomAround});
 }
 
 void TDepthObj::WriteTo(ByteBuffer& out) const {

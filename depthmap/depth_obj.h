@@ -35,6 +35,8 @@ struct DepthRect {
   bool operator==(const DepthRect&) const = default;
 
   PixelRect Normalised() const;
+  // The same size elsewhere. Stops at the ends of the 32-bit numbers.
+  DepthRect Shifted(std::int64_t right, std::int64_t down) const;
 };
 
 struct DepthPoint {
@@ -53,8 +55,8 @@ struct DepthSize {
 class DepthObjOwner {
  public:
   virtual ~DepthObjOwner() = default;
-  // Repaint at once `area` and what `region`, when there is one, covers.
-  virtual void Repaint(const Region* region, const PixelRect& area) = 0;
+  // Show `area` anew.
+  virtual void Repaint(const PixelRect& area) = 0;
 };
 
 // Coordinates and levels are any 32-bit numbers. The region is kept from its first use until the
@@ -96,7 +98,7 @@ class TDepthObj : public TLinkObj {
   void AddPoint(const DepthPoint& point);
   void SetPoints(std::span<const DepthPoint> points);
 
-  // Has the owner repaint the region, and the rectangle with room around it for marks and label.
+  // Has the owner repaint the rectangle, which the region lies in, with room around it for marks.
   void Invalidate();
 
   // One record of a depth-map file: kind, level, then the vertices of a polygon or else the

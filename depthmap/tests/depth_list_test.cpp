@@ -16,10 +16,7 @@ namespace {
 // Remembers which areas were repainted, by their left edge.
 class Painter : public DepthObjOwner {
  public:
-  void Repaint(const Region* region, const PixelRect& area) override {
-    EXPECT_NE(region, nullptr);
-    lefts.push_back(area.left + 4);
-  }
+  void Repaint(const PixelRect& area) override { lefts.push_back(area.left + 4); }
   std::vector<std::int64_t> Take() { return std::exchange(lefts, {}); }
 
   std::vector<std::int64_t> lefts;

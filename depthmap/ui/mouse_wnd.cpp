@@ -45,14 +45,22 @@ QSize TMouseWnd::ClientSize() const {
 }
 
 void TMouseWnd::SetClientSize(const QSize& size) {
-  // Scroll bars that stand in the way go once there is room, so the room is made first.
-  const QSize now = view_->size();
-  const QSize logical = LogicalArea(QRect(QPoint(), size)).size();
-  resize(this->size() + logical - now);
+  wantedClient_ = size;
+  TakeWantedSize();
 }
 
 void TMouseWnd::SetWindowSize(const QSize& size) {
+  wantedClient_.reset();
   resize(LogicalArea(QRect(QPoint(), size)).size());
+}
+
+void TMouseWnd::TakeWantedSize() {
+  if (!wantedClient_ || !isVisible() || isMaximized() || isMinimized()) return;
+  // Scroll bars that stand in the way go once there is room, so the room is made first.
+  const QSize now = view_->size();
+  const QSize logical = LogicalArea(QRect(QPoint(), *wantedClient_)).size();
+  wantedClient_.reset();
+  resize(size() + logical - now);
 }
 
 void TMouseWnd::EvLButtonDblClk(MouseKeys keys, QPoint point) {
@@ -151,6 +159,18 @@ void TMouseWnd::SetScrollExtent(const QSize& extent) {
 
 QPoint TMouseWnd::ScrollPosition() const {
   return {view_->horizontalScrollBar()->value(), view_->verticalScrollBar()->value()};
+}
+
+void TMouseWnd::showEvent(QShowEvent* event) {
+  QMdiSubWindow::showEvent(event);
+  TakeWantedSize();
+}
+
+void TMouseWnd::changeEvent(QEvent* event) {
+  QMdiSubWindow::changeEvent(event);
+  // The window has its new size only after this event.
+  if (event->type() != QEvent::WindowStateChange) return;
+  QMetaObject::invokeMethod(this, &TMouseWnd::TakeWantedSize, Qt::QueuedConnection);
 }
 
 void TMouseWnd::closeEvent(QCloseEvent* event) {

@@ -8,7 +8,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QShowEvent>
 #include <QString>
+#include <optional>
 
 namespace plenovia {
 
@@ -51,7 +53,8 @@ class TMouseWnd : public QMdiSubWindow {
   // Asked when the window shall close; false keeps it open.
   virtual bool CanClose() { return true; }
 
-  // Changes of the window's size keep its top left corner.
+  // Changes of the window's size keep its top left corner. The inside of a window that is hidden,
+  // minimised or maximised takes its size when the window is shown as it normally is.
   QSize ClientSize() const;
   void SetClientSize(const QSize& size);
   void SetWindowSize(const QSize& size);
@@ -110,11 +113,14 @@ class TMouseWnd : public QMdiSubWindow {
   QPoint ScrollPosition() const;
 
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   class ClientView;
   friend class ClientView;
 
+  void TakeWantedSize();
   void MouseMoved(MouseKeys keys, QPoint point);
   QRect LogicalArea(const QRect& client) const;
 
@@ -122,6 +128,7 @@ class TMouseWnd : public QMdiSubWindow {
   ClientView* view_;
   int kind_ = 0;
   int cursorId_ = 0;
+  std::optional<QSize> wantedClient_;
   bool active_ = false;
   TrackRect tracking_;
   QPoint buttonDownPoint_;

@@ -37,7 +37,8 @@ QIcon ButtonPicture(int command) {
 }
 
 QIcon NamedIcon(const QString& name) {
-  return QIcon(QStringLiteral(":/icons/%1.svg").arg(name));
+  const QString file = QStringLiteral(":/icons/%1.svg").arg(name);
+  return QFile::exists(file) ? QIcon(file) : QIcon();
 }
 
 QCursor CursorById(int id, qreal scaleFactor) {

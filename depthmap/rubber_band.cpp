@@ -1,0 +1,78 @@
+#include "depthmap/rubber_band.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "depthmap/object_painting.h"
+
+namespace plenovia {
+
+namespace {
+
+void Include(PixelRect& box, const DepthPoint& point) {
+  box.left = std::min<std::int64_t>(box.left, point.x);
+  box.top = std::min<std::int64_t>(box.top, point.y);
+  box.right = std::max<std::int64_t>(box.right, std::int64_t{point.x} + 1);
+  box.bottom = std::max<std::int64_t>(box.bottom, std::int64_t{point.y} + 1);
+}
+
+}  // namespace
+
+void RubberBand::Start(DepthObjKind kind, const DepthRect& rect) {
+  Stop();
+  shape_ = std::make_unique<TDepthObj>(nullptr, rect, kind, 0);
+  AddVertex({rect.x1, rect.y1});
+}
+
+void RubberBand::Stop() {
+  shape_.reset();
+  line_.reset();
+  closed_ = false;
+}
+
+void RubberBand::SetRect(const DepthRect& rect) {
+  if (!IsActive() || IsPolygon()) return;
+  shape_->SetRect(rect);
+  shape_->DropRegion();
+}
+
+void RubberBand::AddVertex(const DepthPoint& point) {
+  if (!IsPolygon()) return;
+  shape_->AddPoint(point);
+  line_.reset();
+}
+
+std::span<const DepthPoint> RubberBand::Vertices() const {
+  return IsActive() ? shape_->GetPoints() : std::span<const DepthPoint>();
+}
+
+void RubberBand::SetLine(const DepthPoint& from, const DepthPoint& to) {
+  if (IsPolygon()) line_ = Line{from, to};
+}
+
+PixelRect RubberBand::Area() const {
+  if (!IsActive()) return {};
+  const DepthRect& rect = shape_->GetRect();
+  const DepthPoint first = IsPolygon() ? Vertices().front() : DepthPoint{rect.x1, rect.y1};
+  PixelRect box{first.x, first.y, first.x, first.y};
+  Include(box, first);
+  if (!IsPolygon()) Include(box, {rect.x2, rect.y2});
+  for (const DepthPoint& vertex : Vertices()) Include(box, vertex);
+  if (line_) {
+    Include(box, line_->from);
+    Include(box, line_->to);
+  }
+  return box;
+}
+
+void RubberBand::PaintRow(RowCanvas& canvas, std::int64_t y) const {
+  if (!IsActive()) return;
+  if (!IsPolygon() || closed_) PaintOutlineRow(canvas, *shape_, y);
+  const auto vertices = Vertices();
+  for (std::size_t i = 1; i < vertices.size(); ++i) {
+    PaintLineRow(canvas, vertices[i - 1], vertices[i], y);
+  }
+  if (line_) PaintLineRow(canvas, line_->from, line_->to, y);
+}
+
+}  // namespace plenovia

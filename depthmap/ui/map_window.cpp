@@ -1,0 +1,297 @@
+#include "depthmap/ui/map_window.h"
+
+#include <QImage>
+#include <QPointer>
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+#include "depthmap/depth_map_file.h"
+#include "depthmap/ui/level_dialog.h"
+#include "platform/ui/message_box.h"
+#include "platform/ui/private_message.h"
+#include "platform/ui/resource_pictures.h"
+#include "platform/ui/text.h"
+
+namespace plenovia {
+
+namespace {
+
+constexpr std::int64_t kGreatestSide = 32767;  // of a window, in pixels
+
+DepthPoint ToDepthPoint(const QPoint& point) {
+  return {point.x(), point.y()};
+}
+
+DepthRect ToDepthRect(const TrackRect& track) {
+  return {track.anchor.x(), track.anchor.y(), track.moving.x(), track.moving.y()};
+}
+
+}  // namespace
+
+TMapWindow::TMapWindow(QMdiArea* client, const QString& title, int width, int height,
+                       QWidget* frame)
+    : TMouseWnd(client, title, frame) {
+  SetWindowKind(kDepthMapWindow);
+  setWindowIcon(NamedIcon(QStringLiteral("i3")));
+  SetList(std::make_shared<TDepthList>(width, height));
+  SetFileName(title);
+  SetTool(kSelectTool);
+  SetWindowSize({width, height});
+  ResizeToMap();
+}
+
+TMapWindow::~TMapWindow() {
+  list_->SetOwner(nullptr);
+}
+
+void TMapWindow::SetList(std::shared_ptr<TDepthList> list) {
+  if (list_) list_->SetOwner(nullptr);
+  picture_.reset();
+  list_ = std::move(list);
+  list_->SetOwner(this);
+  rubber_.Stop();
+  InvalidateAll();
+  StateMayHaveChanged();
+}
+
+void TMapWindow::SetFileName(const QString& path) {
+  name_ = BaseNameTitle(path);
+  setWindowTitle(name_);
+}
+
+DepthMapInfo TMapWindow::GetBitmapInfo() const {
+  return {list_->GridWidth(), list_->GridHeight()};
+}
+
+Result<DepthMapState> TMapWindow::ReadDepthMap(const QString& path) {
+  auto contents = plenovia::ReadDepthMap(ToPath(path));
+  if (contents && contents->list.GetImageSize() == 0) {
+    contents = Failure(ErrorCode::kCorrupt, "The depth map has no size.");
+  }
+  if (!contents) {
+    if (contents.error().code == ErrorCode::kCorrupt) {
+      ShowMessage(window(), tr("Invalid Depth Map file"), tr("Error"), MessageIcon::kStop);
+    }
+    return tl::unexpected(contents.error());
+  }
+  SetList(std::make_shared<TDepthList>(std::move(contents->list)));
+  ResizeToMap();
+  return contents->damaged ? DepthMapState::kDamaged : DepthMapState::kWhole;
+}
+
+Result<void> TMapWindow::WriteDepthMap(const QString& path) {
+  Result<void> written = plenovia::WriteDepthMap(*list_, ToPath(path));
+  SetFileName(path);
+  StateMayHaveChanged();
+  return written;
+}
+
+void TMapWindow::SetTool(int id) {
+  if (!IsMapTool(id)) return;
+  tool_ = id;
+  SetCursorId(id);
+  Q_EMIT ToolChanged(id);
+}
+
+void TMapWindow::ResizeToMap() {
+  const auto side = [](std::int64_t size) {
+    return static_cast<int>(std::clamp<std::int64_t>(size, 0, kGreatestSide));
+  };
+  SetClientSize({side(list_->GetWidth()), side(list_->GetHeight())});
+}
+
+bool TMapWindow::HandlesCommand(int command) const {
+  return IsMapTool(command) || (command >= kSetLevel && command <= kDeleteObject);
+}
+
+void TMapWindow::RunCommand(int command) {
+  switch (command) {
+    case kSetLevel:
+      CmSetLevel();
+      return;
+    case kMoveObjectUp:
+      list_->CmMoveUp();
+      break;
+    case kMoveObjectDown:
+      list_->CmMoveDown();
+      break;
+    case kDeleteObject:
+      list_->CmDelete();
+      break;
+    default:
+      SetTool(command);
+  }
+  StateMayHaveChanged();
+}
+
+void TMapWindow::CmSetLevel() {
+  // The window may be closed before the dialog is.
+  const std::shared_ptr<TDepthList> list = list_;
+  std::int32_t level = list->CurrentLevel();
+  TLevelDialog dialog(window(), level);
+  if (dialog.exec() == QDialog::Accepted) list->SetCurrentLevel(level);
+}
+
+bool TMapWindow::CanClose() {
+  if (!IsSaved()) {
+    const QPointer<TMapWindow> self(this);
+    const Answer answer = AskYesNoCancel(
+        window(), tr("Save\r %s\r before closing?").replace(QStringLiteral("%s"), name_),
+        tr("Confirm"));
+    if (!self || answer == Answer::kCancel) return false;
+    if (answer == Answer::kYes) {
+      SendPrivateMessage(Frame(), PrivateMessage(WM_SAVECHILD, this));
+      if (!self || !IsSaved()) return false;
+    }
+  }
+  PostPrivateMessage(Frame(), WM_UPDATESTATUS);
+  return true;
+}
+
+void TMapWindow::EvMDIActivate(bool active) {
+  if (!active) return;
+  SendPrivateMessage(Frame(), PrivateMessage(WM_UPDATESTATUS));
+  SetTool(tool_);
+}
+
+void TMapWindow::StateMayHaveChanged() {
+  const bool changed = knownSaved_ != IsSaved() || knownSelected_ != list_->Selected();
+  knownSaved_ = IsSaved();
+  knownSelected_ = list_->Selected();
+  if (changed) Q_EMIT StateChanged();
+}
+
+MapPicture& TMapWindow::Picture() {
+  if (!labels_ || !labels_->Fits(*this)) {
+    picture_.reset();
+    labels_ = std::make_unique<LevelLabelFont>(*this);
+  }
+  if (!picture_) picture_ = std::make_unique<MapPicture>(*list_, *labels_);
+  const QSize size = ClientSize();
+  picture_->SetSize(size.width(), size.height());
+  return *picture_;
+}
+
+QRect TMapWindow::InClient(const PixelRect& area) const {
+  const QSize size = ClientSize();
+  const auto left = static_cast<int>(std::clamp<std::int64_t>(area.left, 0, size.width()));
+  const auto top = static_cast<int>(std::clamp<std::int64_t>(area.top, 0, size.height()));
+  const auto right = static_cast<int>(std::clamp<std::int64_t>(area.right, 0, size.width()));
+  const auto bottom = static_cast<int>(std::clamp<std::int64_t>(area.bottom, 0, size.height()));
+  return {left, top, right - left, bottom - top};
+}
+
+void TMapWindow::Paint(QPainter& painter, const QRect& exposed) {
+  const QRect area = exposed & QRect(QPoint(), ClientSize());
+  if (area.isEmpty()) return;
+  QImage shown(area.size(), QImage::Format_ARGB32_Premultiplied);
+  if (shown.isNull()) return;
+  Picture().Render(
+      {area.left(), area.top(), area.left() + area.width(), area.top() + area.height()}, rubber_,
+      {reinterpret_cast<std::uint32_t*>(shown.bits()),
+       static_cast<std::size_t>(shown.sizeInBytes()) / sizeof(std::uint32_t)});
+  painter.drawImage(area.topLeft(), shown);
+}
+
+void TMapWindow::Repaint(const PixelRect& area) {
+  Invalidate(InClient(Picture().WithLabels(area)));
+}
+
+void TMapWindow::InvalidateRubber() {
+  Invalidate(InClient(rubber_.Area()));
+}
+
+void TMapWindow::OnLButtonDown(MouseKeys, QPoint point) {
+  const TDepthObj* object = list_->ObjectAt(point.x(), point.y());
+  switch (tool_) {
+    case kSelectTool:
+    case kMoveTool:
+      list_->Select(object);
+      break;
+    case kGetLevelTool:
+      list_->GetObjectLevel(object);
+      break;
+    case kApplyLevelTool:
+      list_->ApplyObjectLevel(object);
+      break;
+    case kPolygonTool:
+      AddVertex(point);
+      break;
+    default:
+      InvalidateRubber();
+      rubber_.Start(KindOfTool(tool_), ToDepthRect(Tracking()));
+  }
+  StateMayHaveChanged();
+}
+
+void TMapWindow::LeftDrag(int x, int y) {
+  if (tool_ == kMoveTool && list_->Selected() != nullptr) {
+    MoveSelected(QPoint(x, y) - LastPoint());
+    SetLastPoint(x, y);
+    return;
+  }
+  UpdateTrack(x, y);
+  InvalidateRubber();
+  rubber_.SetRect(ToDepthRect(Tracking()));
+  rubber_.SetClosed(true);
+  InvalidateRubber();
+}
+
+void TMapWindow::OnLButtonUp(MouseKeys, QPoint) {
+  if (LeftDragged() && IsDrawingTool(tool_) && tool_ != kPolygonTool) AddShape();
+  InvalidateRubber();
+  rubber_.SetClosed(false);
+  if (tool_ != kPolygonTool) rubber_.Stop();
+  StateMayHaveChanged();
+}
+
+void TMapWindow::HoverMove(int x, int y) {
+  if (tool_ == kPolygonTool && rubber_.IsPolygon()) {
+    InvalidateRubber();
+    rubber_.SetLine(ToDepthPoint(ButtonDownPoint()), {x, y});
+    InvalidateRubber();
+  }
+  SetLastPoint(x, y);
+}
+
+void TMapWindow::OnLButtonDblClk(MouseKeys, QPoint) {
+  if (tool_ == kPolygonTool && rubber_.IsPolygon()) FinishPolygon();
+}
+
+void TMapWindow::MoveSelected(QPoint way) {
+  const TDepthObj* selected = list_->Selected();
+  list_->Invalidate(selected);
+  list_->MoveSelectedTo(selected->GetRect().Shifted(way.x(), way.y()));
+  list_->Invalidate(selected);
+}
+
+void TMapWindow::AddShape() {
+  list_->AddObject(std::make_unique<TDepthObj>(nullptr, ToDepthRect(Tracking()), KindOfTool(tool_),
+                                               list_->CurrentLevel()));
+  list_->Select(list_->Head());
+}
+
+void TMapWindow::AddVertex(QPoint point) {
+  if (rubber_.IsPolygon()) {
+    rubber_.AddVertex(ToDepthPoint(point));
+  } else {
+    InvalidateRubber();
+    rubber_.Start(PolygonObj, ToDepthRect(Tracking()));
+  }
+  InvalidateRubber();
+}
+
+void TMapWindow::FinishPolygon() {
+  auto polygon =
+      std::make_unique<TDepthObj>(nullptr, DepthRect{}, PolygonObj, list_->CurrentLevel());
+  polygon->SetPoints(rubber_.Vertices());
+  list_->AddObject(std::move(polygon));
+  InvalidateRubber();
+  rubber_.Stop();
+  list_->Invalidate(list_->Head());
+  StateMayHaveChanged();
+}
+
+}  // namespace plenovia

@@ -1,0 +1,104 @@
+// The editor of a depth map: shapes drawn, moved and given their levels with the mouse.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <memory>
+
+#include "depthmap/depth_list.h"
+#include "depthmap/map_picture.h"
+#include "depthmap/rubber_band.h"
+#include "depthmap/ui/level_label_font.h"
+#include "depthmap/ui/map_tools.h"
+#include "depthmap/ui/mouse_wnd.h"
+#include "platform/result.h"
+
+namespace plenovia {
+
+struct DepthMapInfo {
+  int width = 0;
+  int height = 0;
+  int bitsPerPixel = 8;
+};
+
+enum class DepthMapState { kWhole, kDamaged };
+
+// Shows the whole map, one pixel of it a pixel of the display.
+class TMapWindow : public TMouseWnd, private DepthObjOwner {
+  Q_OBJECT
+
+ public:
+  // A new map, not saved. `title` may be the path of a file that is then read.
+  TMapWindow(QMdiArea* client, const QString& title, int width, int height, QWidget* frame);
+  ~TMapWindow() override;
+
+  // The caption: the lower-cased file name of a path.
+  const QString& GetTitle() const { return name_; }
+  void SetFileName(const QString& path);
+  bool IsSaved() const { return list_->IsSaved(); }
+
+  // The map's size, at most the greatest int, and its bytes as a picture with 8 bits a pixel.
+  DepthMapInfo GetBitmapInfo() const;
+  std::uint64_t GetImageSize() const { return list_->GetImageSize(); }
+  const TDepthList& Objects() const { return *list_; }
+  // The levels as they are at each moment. Who holds them keeps them when the window closes or
+  // reads another map.
+  std::shared_ptr<const LevelGrid> Levels() const { return list_; }
+
+  // Replaces the map by that of a file and fits the window to it. kDamaged when the file breaks its
+  // format but holds a map all the same. A file that is no depth map, or whose map has no size, is
+  // kCorrupt: the user has been told, and the map stays as it was. Of other errors the user has not
+  // been told.
+  [[nodiscard]] Result<DepthMapState> ReadDepthMap(const QString& path);
+  // Takes the path's name, also when the file cannot be written; then the map is as saved or
+  // unsaved as it was. The user is not told.
+  [[nodiscard]] Result<void> WriteDepthMap(const QString& path);
+
+  int CurrentTool() const { return tool_; }
+  // Numbers that are no tool's are passed over.
+  void SetTool(int id);
+  // Gives the window's inside the size of the map.
+  void ResizeToMap();
+
+  bool HandlesCommand(int command) const override;
+  void RunCommand(int command) override;
+  bool CanClose() override;
+
+ Q_SIGNALS:
+  // This window is the active one and has this tool.
+  void ToolChanged(int tool);
+
+ protected:
+  void Paint(QPainter& painter, const QRect& exposed) override;
+  void EvMDIActivate(bool active) override;
+  void OnLButtonDown(MouseKeys keys, QPoint point) override;
+  void OnLButtonUp(MouseKeys keys, QPoint point) override;
+  void OnLButtonDblClk(MouseKeys keys, QPoint point) override;
+  void LeftDrag(int x, int y) override;
+  void HoverMove(int x, int y) override;
+
+ private:
+  void Repaint(const PixelRect& area) override;
+  void SetList(std::shared_ptr<TDepthList> list);
+  MapPicture& Picture();
+  QRect InClient(const PixelRect& area) const;
+  void InvalidateRubber();
+  void StateMayHaveChanged();
+
+  void MoveSelected(QPoint way);
+  void AddShape();
+  void AddVertex(QPoint point);
+  void FinishPolygon();
+  void CmSetLevel();
+
+  std::shared_ptr<TDepthList> list_;
+  std::unique_ptr<LevelLabelFont> labels_;
+  std::unique_ptr<MapPicture> picture_;
+  RubberBand rubber_;
+  QString name_;
+  int tool_ = kSelectTool;
+  bool knownSaved_ = false;
+  const TDepthObj* knownSelected_ = nullptr;  // compared only
+};
+
+}  // namespace plenovia
