@@ -1,5 +1,6 @@
 #include "images/ui/patt_dialog.h"
 
+#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QPushButton>
@@ -22,7 +23,8 @@ QPushButton* MakePictureButton(int id, const QString& text) {
   const QIcon picture = ButtonPicture(id);
   QPushButton* button = MakeButton(id, picture.isNull() ? text : QString());
   button->setIcon(picture);
-  button->setIconSize(picture.actualSize(QSize(64, 64)));
+  const int height = button->fontMetrics().height() * 3 / 2;
+  button->setIconSize(picture.actualSize(QSize(10 * height, height)));
   button->setAccessibleName(text);
   button->setToolTip(text);
   return button;

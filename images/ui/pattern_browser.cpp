@@ -34,7 +34,8 @@ PatternBrowser::PatternBrowser(TSirdPatt& library, QWidget* parent)
   auto* all = new QHBoxLayout(this);
   all->setContentsMargins(0, 0, 0, 0);
   all->addWidget(frame, 0, Qt::AlignTop);
-  all->addLayout(buttons_, 1);
+  all->addLayout(buttons_);
+  all->addStretch();
   Refresh();
 }
 

@@ -1,0 +1,81 @@
+#include "images/ui/source_wiz_dlg.h"
+
+#include "images/ui/math_dlg.h"
+#include "platform/ui/dialog_controls.h"
+#include "platform/ui/file_dialogs.h"
+
+namespace plenovia {
+
+SourceWizDlg::SourceWizDlg(QWidget* parent, const WizardSource& source,
+                           const std::filesystem::path& settingsFile)
+    : WizardDlg(parent, tr("Select a source for generating the Stereogram.  Your choices are:"),
+                BackButton::kNone),
+      source_(source),
+      settingsFile_(settingsFile),
+      types_{MakeRadio(102, tr("From Bitmap image")), MakeRadio(103, tr("From Depth Map")),
+             MakeRadio(104, tr("From Math Library"))},
+      name_(MakeEdit(105)) {
+  setObjectName(QStringLiteral("page201"));
+  for (std::size_t i = 0; i < types_.size(); ++i) {
+    Content()->addWidget(types_[i]);
+    const auto type = static_cast<WizardSourceType>(i + 1);
+    connect(types_[i], &QRadioButton::clicked, this, [this, type] { Choose(type); });
+  }
+  Content()->addStretch();
+  Content()->addWidget(MakeLabel(tr("Selected Source:"), name_));
+  Content()->addWidget(name_);
+
+  connect(name_, &QLineEdit::textChanged, this,
+          [this](const QString& text) { NextButton()->setEnabled(!text.isEmpty()); });
+  NextButton()->setEnabled(!source_.name.isEmpty());
+  name_->setText(source_.name);
+  CheckType();
+}
+
+void SourceWizDlg::CheckType() {
+  QRadioButton* type = types_.at(static_cast<std::size_t>(source_.type - 1));
+  type->setChecked(true);
+  type->setFocus();
+}
+
+void SourceWizDlg::Choose(WizardSourceType type) {
+  if (const auto name = Ask(type)) {
+    source_.type = type;
+    name_->setText(*name);
+  }
+  CheckType();
+}
+
+std::optional<QString> SourceWizDlg::Ask(WizardSourceType type) {
+  FileQuestion question;
+  question.title = tr("Select File");
+  switch (type) {
+    case kBitmapSource:
+      question.filters =
+          tr("Bitmap Files (*.BMP)|*.bmp|PCX Files (*.PCX)|*.pcx|"
+             "GIF Files (*.GIF)|*.gif|");
+      question.defaultExtension = QStringLiteral("bmp");
+      return AskOpenFile(this, question);
+    case kDepthMapSource:
+      question.filters = tr("Depth Map File (*.RDS)|*.rds|");
+      question.defaultExtension = QStringLiteral("rds");
+      return AskOpenFile(this, question);
+    case kFigureSource:
+      break;
+  }
+  return AskFigure();
+}
+
+std::optional<QString> SourceWizDlg::AskFigure() {
+  MathDlg dialog(this);
+  if (dialog.exec() != QDialog::Accepted || dialog.SelectedIndex() < 0) return std::nullopt;
+  source_.figure = dialog.SelectedIndex();
+  return dialog.SelectedTitle();
+}
+
+void SourceWizDlg::OnNext() {
+  source_.name = name_->text();
+  StoreWizardSource(source_, settingsFile_);
+}
+
+}  // namespace plenovia

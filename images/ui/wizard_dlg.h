@@ -1,0 +1,37 @@
+// The base of the pages of the stereogram wizard.
+#pragma once
+
+#include <QDialog>
+#include <QPushButton>
+#include <QString>
+#include <QVBoxLayout>
+
+namespace plenovia {
+
+// A modal page: a picture, a text, what the page adds, and below it the buttons. exec() gives one
+// of the results here, or QDialog::Rejected for Cancel.
+class WizardDlg : public QDialog {
+  Q_OBJECT
+
+ public:
+  static constexpr int kNext = 101;
+  static constexpr int kBack = 102;
+
+ protected:
+  enum class BackButton { kNone, kShown };
+  WizardDlg(QWidget* parent, const QString& text, BackButton back);
+
+  // Where the page puts its controls, below the text.
+  QVBoxLayout* Content() { return content_; }
+  QPushButton* NextButton() { return next_; }
+
+  // Called before the page closes with the result of that name.
+  virtual void OnNext() {}
+  virtual void OnBack() {}
+
+ private:
+  QVBoxLayout* content_;
+  QPushButton* next_;
+};
+
+}  // namespace plenovia
