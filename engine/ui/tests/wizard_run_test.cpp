@@ -260,7 +260,7 @@ TEST_F(Wizard, ATypedPathIsGivenAsTyped) {
 }
 
 TEST_F(Wizard, AFileIsChosenOrTheChoiceCancelled) {
-  const QString map = ToQString(folder / "Map.RDS");
+  const QString map = PathToQString(folder / "Map.RDS");
   ASSERT_TRUE(WriteFile(folder / "Map.RDS", std::vector<std::uint8_t>{0}));
   On(201, [=](Page& page) {
     page.Radio(102).click();
