@@ -45,8 +45,10 @@ QSize TMouseWnd::ClientSize() const {
 }
 
 void TMouseWnd::SetClientSize(const QSize& size) {
-  wantedClient_ = size;
-  TakeWantedSize();
+  const QSize logical = LogicalArea(QRect(QPoint(), size)).size();
+  // In a window too small for its own frame the view has no size to reckon with, only after the
+  // first step.
+  for (int step = 0; step < 2; ++step) resize(this->size() + logical - view_->size());
 }
 
 void TMouseWnd::SetWindowSize(const QSize& size) {

@@ -1,0 +1,128 @@
+#include "app/command_router.h"
+
+#include <QCoreApplication>
+#include <QMenu>
+#include <utility>
+
+#include "app/command_table.h"
+#include "app/plenovia_wnd.h"
+#include "app/sirds_commands.h"
+#include "depthmap/ui/mouse_wnd.h"
+
+namespace plenovia {
+
+namespace {
+
+constexpr int kMenusLookedAt = 20;
+
+QString Translated(const char* text) {
+  return QCoreApplication::translate("Commands", text);
+}
+
+const CommandRow* RowOf(int command) {
+  for (const CommandRow& row : CommandTable()) {
+    if (row.number == command) return &row;
+  }
+  return nullptr;
+}
+
+bool IsFigure(int command) {
+  return command >= kCmFirstFigure && command <= kCmLastFigure;
+}
+
+}  // namespace
+
+CommandRouter::CommandRouter(TPlenoviaWnd& frame) : QObject(&frame), frame_(frame) {
+  for (const CommandRow& row : CommandTable()) {
+    if (row.number != 0) Add(row.number, Translated(row.text), Translated(row.hint));
+  }
+}
+
+QAction* CommandRouter::Add(int command, const QString& text, const QString& hint) {
+  auto* action = new QAction(text, this);
+  action->setObjectName(QStringLiteral("command%1").arg(command));
+  action->setData(command);
+  action->setStatusTip(hint);
+  action->setMenuRole(QAction::NoRole);
+  connect(action, &QAction::triggered, this, [this, command] { Run(command); });
+  actions_[command] = action;
+  return action;
+}
+
+void CommandRouter::BuildMenus(QMenuBar& bar) {
+  const char* title = nullptr;
+  QMenu* menu = nullptr;
+  for (const CommandRow& row : CommandTable()) {
+    if (row.menu == nullptr) continue;
+    if (menu == nullptr || row.menu != title) {
+      title = row.menu;
+      menu = bar.addMenu(Translated(title));
+      connect(menu, &QMenu::aboutToShow, this, &CommandRouter::Refresh);
+    }
+    if (row.number == 0) {
+      menu->addSeparator();
+    } else {
+      menu->addAction(Action(row.number));
+    }
+  }
+}
+
+void CommandRouter::AddFigure(QMenuBar& bar, int command, const QString& title) {
+  const QList<QAction*> tops = bar.actions();
+  for (qsizetype i = 0; i < tops.size() && i < kMenusLookedAt; ++i) {
+    if (tops[i]->text() != Translated("&Math SIRDS") || tops[i]->menu() == nullptr) continue;
+    tops[i]->menu()->addAction(Add(command, title, QString()));
+    return;
+  }
+}
+
+QAction* CommandRouter::Action(int command) const {
+  const auto found = actions_.find(command);
+  return found != actions_.end() ? found->second : nullptr;
+}
+
+QString CommandRouter::Hint(int command) const {
+  const QAction* action = Action(command);
+  return action != nullptr ? action->statusTip() : QString();
+}
+
+void CommandRouter::SetApplicationCommand(int command, std::function<void()> handler) {
+  applicationCommands_[command] = std::move(handler);
+}
+
+void CommandRouter::Run(int command) {
+  TMouseWnd* active = frame_.GetActiveChild();
+  const CommandRow* row = RowOf(command);
+  const auto application = applicationCommands_.find(command);
+  if (active != nullptr && active->HandlesCommand(command)) {
+    active->RunCommand(command);
+  } else if (row != nullptr && row->handler != nullptr) {
+    row->handler(frame_);
+  } else if (IsFigure(command)) {
+    CmFigure(frame_, command);
+  } else if (application != applicationCommands_.end()) {
+    application->second();
+  }
+  RefreshSoon();
+}
+
+bool CommandRouter::IsAvailable(int command) const {
+  const TMouseWnd* active = frame_.GetActiveChild();
+  if (active != nullptr && active->HandlesCommand(command)) return active->CommandEnabled(command);
+  const CommandRow* row = RowOf(command);
+  if (row != nullptr && row->enabler != nullptr) return row->enabler(frame_);
+  return (row != nullptr && row->handler != nullptr) || IsFigure(command) ||
+         applicationCommands_.contains(command);
+}
+
+void CommandRouter::Refresh() {
+  refreshWaits_ = false;
+  for (const auto& [command, action] : actions_) action->setEnabled(IsAvailable(command));
+}
+
+void CommandRouter::RefreshSoon() {
+  if (std::exchange(refreshWaits_, true)) return;
+  QMetaObject::invokeMethod(this, &CommandRouter::Refresh, Qt::QueuedConnection);
+}
+
+}  // namespace plenovia

@@ -1,0 +1,186 @@
+// The frame: start, placement, menus, what is available, leaving.
+
+#include <QMenuBar>
+#include <QScreen>
+#include <QtTest/QTest>
+#include <set>
+
+#include "app/button_bar.h"
+#include "app/file_commands.h"
+#include "app/tests/program.h"
+#include "platform/profile_file.h"
+#include "platform/ui/private_message.h"
+
+namespace plenovia {
+namespace {
+
+class FrameTest : public ProgramTest {
+ protected:
+  Qt::ToolBarArea BarArea() {
+    return Frame().toolBarArea(Frame().findChild<ButtonBar*>(QStringLiteral("mainBar")));
+  }
+  // What the window manager adds is known a little later.
+  void WaitForPlace(const QRect& place) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Frame().frameGeometry() == place; }, 3000))
+        << Frame().frameGeometry().width() << " x " << Frame().frameGeometry().height();
+  }
+  // The offscreen display has 800 x 800 pixels.
+  bool FitsTheDisplay() { return Frame().screen()->size().width() >= 800; }
+  ProfileFile Saved() { return ProfileFile::Load(SettingsFile()).value(); }
+};
+
+TEST_F(FrameTest, FirstStartHasTheDefaultsAndLeavingWritesThem) {
+  Start();
+  if (!FitsTheDisplay()) GTEST_SKIP();
+  WaitForPlace(QRect(0, 0, 640, 480));
+  EXPECT_EQ(BarArea(), Qt::TopToolBarArea);
+  EXPECT_EQ(Frame().LastFormat(), 1);
+  EXPECT_EQ(Frame().Patterns()->GetCount(), 20);
+  EXPECT_EQ(Frame().Settings(), TSirdsSettings());
+  EXPECT_TRUE(Stop());
+  const ProfileFile saved = Saved();
+  EXPECT_EQ(saved.GetInt("WinSize", "X2", -1), 640);
+  EXPECT_EQ(saved.GetInt("WinSize", "MX", -1), 0);
+  EXPECT_EQ(saved.GetInt("Patterns", "Count", -1), 20);
+  EXPECT_EQ(saved.GetInt("DEMO", "zmax", -1), 63);
+}
+
+TEST_F(FrameTest, ComesBackWhereItWasWithItsSettings) {
+  WriteSettings(
+      "[WinSize]\nX1=30\nY1=20\nX2=730\nY2=570\n[Tools]\nCntlBar=2\n[GRAPHICS]\nFormat=3\n"
+      "[Patterns]\nSelect=7\nCount=5\n[DEMO]\nw=300\ndx=-12\nnote=mine\n[other]\nkey=kept\n");
+  Start();
+  if (!FitsTheDisplay()) GTEST_SKIP();
+  WaitForPlace(QRect(30, 20, 700, 550));
+  EXPECT_EQ(BarArea(), Qt::RightToolBarArea);
+  EXPECT_EQ(Frame().Patterns()->GetCurrentIndex(), 7);
+  EXPECT_EQ(Frame().Settings().dx, -12);
+  Frame().move(100, 90);
+  Run(kCmRelocateBar);
+  EXPECT_EQ(BarArea(), Qt::TopToolBarArea);
+  EXPECT_TRUE(Stop());
+  const ProfileFile saved = Saved();
+  EXPECT_EQ(saved.GetInt("WinSize", "X1", -1), 100);
+  EXPECT_EQ(saved.GetInt("WinSize", "Y2", -1), 640);
+  EXPECT_EQ(saved.GetInt("Tools", "CntlBar", -1), 0);
+  EXPECT_EQ(saved.GetInt("GRAPHICS", "Format", -1), 3);
+  EXPECT_EQ(saved.GetInt("Patterns", "Select", -1), 7);
+  EXPECT_EQ(saved.GetInt("DEMO", "dx", 0), -12);
+  EXPECT_EQ(saved.GetText("other", "key", ""), "kept");
+}
+
+TEST_F(FrameTest, NonsenseInTheSettingsStillGivesAFrameOnTheScreen) {
+  WriteSettings(
+      "[WinSize]\nX1=90000\nY1=-2147483648\nX2=2147483647\nY2=2147483647\n"
+      "[Tools]\nCntlBar=7\n[GRAPHICS]\nFormat=77\n[DEMO]\nscan\nw=-4\n");
+  Start();
+  EXPECT_EQ(BarArea(), Qt::TopToolBarArea);
+  EXPECT_TRUE(Frame().screen()->virtualGeometry().intersects(Frame().geometry()));
+}
+
+TEST_F(FrameTest, RelocatingGoesRoundTopLeftRight) {
+  Start();
+  const Qt::ToolBarArea areas[] = {Qt::LeftToolBarArea, Qt::RightToolBarArea, Qt::TopToolBarArea};
+  for (const Qt::ToolBarArea area : areas) {
+    Run(kCmRelocateBar);
+    EXPECT_EQ(BarArea(), area);
+  }
+}
+
+TEST_F(FrameTest, FiguresFollowTheVersionInTheirMenu) {
+  Start();
+  const QList<QAction*> tops = Frame().menuBar()->actions();
+  ASSERT_EQ(tops.size(), 6);
+  const QList<QAction*> items = tops[3]->menu()->actions();
+  ASSERT_EQ(items.size(), 32);
+  EXPECT_EQ(items[0]->text(), QStringLiteral("&Version"));
+  EXPECT_TRUE(items[1]->isSeparator());
+  EXPECT_EQ(items[2]->data().toInt(), kCmFirstFigure);
+  EXPECT_TRUE(items[31]->isEnabled());
+}
+
+TEST_F(FrameTest, AvailabilityFollowsTheActiveWindow) {
+  Start();
+  const auto available = [this](std::set<int> of) {
+    std::set<int> found;
+    for (const int command : of) {
+      if (Available(command)) found.insert(command);
+    }
+    return found;
+  };
+  const std::set<int> looked{kCmNew,        kCmOpen,      kCmSave,      kCmSaveAs,     kCmZoomIn,
+                             kCmZoomOut,    kCmMakeSirds, kCmGrayImage, kCmExit,       kCmTile,
+                             kCmFullScreen, 1251,         1255,         kCmStopProcess};
+  EXPECT_EQ(available(looked), (std::set<int>{kCmNew, kCmOpen, kCmExit, kCmGrayImage}));
+  Run(kCmGrayImage);
+
+  TSirdsWnd* picture = AddPicture(NoisePicture(50, 40, 16));
+  std::set<int> ofPicture{kCmNew,     kCmOpen,      kCmExit, kCmGrayImage, kCmZoomIn,
+                          kCmZoomOut, kCmMakeSirds, kCmTile, kCmFullScreen};
+  EXPECT_EQ(available(looked), ofPicture);
+  picture->SetSaved(false);
+  EXPECT_TRUE(Available(kCmSave));
+  Run(kCmZoomIn);
+  Run(kCmZoomIn);
+  EXPECT_EQ(picture->Zoom(), 4.0);
+  EXPECT_FALSE(Available(kCmZoomIn));
+  for (int i = 0; i < 4; ++i) Run(kCmZoomOut);
+  EXPECT_EQ(picture->Zoom(), 0.25);
+  EXPECT_FALSE(Available(kCmZoomOut));
+
+  CmFileNew(Frame());
+  EXPECT_EQ(available(looked), (std::set<int>{kCmNew, kCmOpen, kCmSave, kCmExit, kCmGrayImage,
+                                              kCmMakeSirds, kCmTile, 1251}));
+}
+
+TEST_F(FrameTest, StatusBarTellsAboutTheActivePicture) {
+  Start();
+  AddPicture(NoisePicture(400, 400, 256));
+  EXPECT_EQ(Frame().Status().Message(), QStringLiteral("400 x 400 x 256"));
+  EXPECT_EQ(Frame().Status().ImageText(), QStringLiteral("Image: 160 K"));
+  AddPicture(NoisePicture(101, 10, 16));
+  EXPECT_EQ(Frame().Status().Message(), QStringLiteral("101 x 10 x 16"));
+  Frame().GetActiveChild()->close();
+  Frame().GetActiveChild()->close();
+  Settle();
+  EXPECT_EQ(Frame().Status().ImageText(), QString());
+}
+
+TEST_F(FrameTest, LeavingAsksForEachUnsavedWindowAndCancelKeepsEverything) {
+  Start();
+  AddPicture(NoisePicture(30, 30, 4))->SetSaved(false);
+  const QString question = QStringLiteral("Save\n picture\n before closing?");
+  {
+    DialogAnswers answers;
+    answers.AddMessage(question, QStringLiteral("Confirm"), QMessageBox::Cancel);
+    EXPECT_FALSE(Stop());
+    EXPECT_FALSE(std::filesystem::exists(SettingsFile()));
+  }
+  DialogAnswers answers;
+  answers.AddMessage(question, QStringLiteral("Confirm"), QMessageBox::No);
+  EXPECT_TRUE(Stop());
+  EXPECT_TRUE(std::filesystem::exists(SettingsFile()));
+}
+
+TEST_F(FrameTest, BoxesThatOnlyTell) {
+  Start();
+  DialogAnswers answers;
+  answers.Add([](QDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Graphics Library"));
+    dialog.reject();
+  });
+  Run(kCmGraphicsLib);
+  answers.Add([](QDialog& dialog) {
+    EXPECT_TRUE(qobject_cast<QMessageBox*>(&dialog)->text().contains(QStringLiteral("4294967296")));
+    dialog.reject();
+  });
+  Run(kCmVideoInformation);
+  answers.Add([](QDialog& dialog) {
+    EXPECT_EQ(dialog.objectName(), QStringLiteral("about"));
+    dialog.reject();
+  });
+  Run(kCmAbout);
+}
+
+}  // namespace
+}  // namespace plenovia

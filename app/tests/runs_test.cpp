@@ -1,0 +1,228 @@
+// Stereograms made in the window, and everything that may happen while one is made.
+
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QTimer>
+#include <QtTest/QTest>
+#include <functional>
+#include <vector>
+
+#include "app/file_commands.h"
+#include "app/sirds_commands.h"
+#include "app/tests/program.h"
+#include "engine/generation.h"
+#include "platform/ui/private_message.h"
+#include "testing/picture_compare.h"
+
+namespace plenovia {
+namespace {
+
+// Writes down what the frame is told.
+class MessageLog : public QObject {
+ public:
+  explicit MessageLog(QObject& frame) { frame.installEventFilter(this); }
+  std::vector<std::string> lines;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != PrivateMessage::EventType()) return false;
+    const auto* message = static_cast<PrivateMessage*>(event);
+    if (message->number() != WM_PROGRESS) return false;
+    const ProgressInfo& info = *message->progress();
+    const auto percent = info.total > 0 ? info.done * 100 / info.total : 0;
+    lines.push_back(std::to_string(message->value()) + " " + info.text + " " +
+                    std::to_string(percent));
+    return false;
+  }
+};
+
+class Quiet final : public RunMonitor {
+ public:
+  void OnProgress(ProgressPhase, const ProgressInfo&) override {}
+  bool StopRequested() override { return false; }
+};
+
+class Runs : public ProgramTest {
+ protected:
+  Runs() { Start(); }
+
+  // Runs the command, and `during` while its first bands are made.
+  void RunAnd(int command, std::function<void()> during) {
+    int turn = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+      if (++turn != 2) return;
+      timer.stop();
+      during();
+    });
+    timer.start(0);
+    Run(command);
+    Settle();
+  }
+
+  std::vector<TSirdsWnd*> Pictures() {
+    std::vector<TSirdsWnd*> pictures;
+    for (QMdiSubWindow* window : Frame().Area()->subWindowList()) {
+      if (auto* picture = qobject_cast<TSirdsWnd*>(window)) pictures.push_back(picture);
+    }
+    return pictures;
+  }
+};
+
+TEST_F(Runs, MakesWhatTheEngineMakesAndTellsTheFrame) {
+  const auto picture = NoisePicture(400, 400, 64);
+  AddPicture(picture);
+  const MessageLog log(Frame());
+  Run(kCmMakeSirds);
+  Settle();
+  const std::vector<std::string> expected{"1  0",
+                                          "3 Generating Dots 0",
+                                          "4 Shifting Dots 12",
+                                          "4 Shifting Dots 25",
+                                          "4 Shifting Dots 37",
+                                          "4 Shifting Dots 50",
+                                          "4 Shifting Dots 62",
+                                          "4 Shifting Dots 75",
+                                          "4 Shifting Dots 87",
+                                          "2  0"};
+  EXPECT_EQ(log.lines, expected);
+
+  TSirdsWnd* made = Frame().ActivePicture();
+  ASSERT_NE(made, nullptr);
+  EXPECT_EQ(made->GetTitle(), QStringLiteral("picture{sird}"));
+  EXPECT_TRUE(made->IsStereogram());
+  EXPECT_FALSE(made->IsSaved());
+  Quiet quiet;
+  const auto pattern = Frame().Patterns()->GetCurrentBitmap();
+  const auto direct = MakeSirdFromBitmap(*picture, 1.0, {*pattern, Frame().Settings(), quiet});
+  EXPECT_TRUE(SamePixels(*made->Picture(), *direct));
+  EXPECT_TRUE(Available(kCmMakeSirds));
+  made->SetSaved(true);
+}
+
+TEST_F(Runs, AStereogramIsNotMadeIntoAnother) {
+  AddPicture(NoisePicture(200, 200, 64))->SetIsStereogram(true);
+  DialogAnswers answers;
+  answers.AddMessage(QStringLiteral("The active window is already a SIRD."),
+                     QStringLiteral("Note"));
+  Run(kCmMakeSirds);
+  EXPECT_EQ(Pictures().size(), 1U);
+}
+
+TEST_F(Runs, WhileOneRunsOnlyStoppingAndWhatIsAlwaysThereAreAvailable) {
+  AddPicture(NoisePicture(1500, 1500, 64));
+  std::vector<int> available;
+  RunAnd(kCmMakeSirds, [&] {
+    for (const CommandRow& row : CommandTable()) {
+      if (row.number != 0 && Frame().Commands().Action(row.number)->isEnabled()) {
+        available.push_back(row.number);
+      }
+    }
+    Run(kCmStopProcess);
+    EXPECT_TRUE(Available(kCmOpen));
+  });
+  const std::vector<int> expected{
+      kCmVideoInformation, kCmFullScreen,  kCmWizard, kCmGrayImage,    kCmSettings,   kCmPatterns,
+      kCmVersion,          kCmCascade,     kCmTile,   kCmArrangeIcons, kCmCloseAll,   kCmHelpIndex,
+      kCmHelpSirds,        kCmGraphicsLib, kCmAbout,  kCmRelocateBar,  kCmStopProcess};
+  EXPECT_EQ(available, expected);
+  EXPECT_EQ(Pictures().size(), 1U) << "a stopped run makes no window";
+}
+
+TEST_F(Runs, StoppedRunsOfMapsAndFiguresCloseTheirWindows) {
+  Frame().Settings().w = 1200;
+  Frame().Settings().h = 1200;
+  RunAnd(kCmFirstFigure, [&] { Run(kCmStopProcess); });
+  EXPECT_TRUE(Pictures().empty());
+
+  CmFileNew(Frame());
+  RunAnd(kCmMakeSirds, [&] { Run(kCmStopProcess); });
+  EXPECT_TRUE(Pictures().empty());
+  EXPECT_EQ(Frame().GetActiveChild()->GetWindowKind(), kDepthMapWindow);
+  EXPECT_FALSE(Frame().IsBusy());
+}
+
+TEST_F(Runs, TheSourceMayBeClosed) {
+  TSirdsWnd* source = AddPicture(NoisePicture(1500, 1500, 64));
+  RunAnd(kCmMakeSirds, [&] { source->close(); });
+  EXPECT_TRUE(Pictures().empty());
+
+  CmFileNew(Frame());
+  QMdiSubWindow* map = Frame().GetActiveChild();
+  RunAnd(kCmMakeSirds, [&] { delete map; });
+  EXPECT_EQ(Pictures().size(), 1U) << "who makes a stereogram of a map keeps the map";
+  for (TSirdsWnd* picture : Pictures()) picture->SetSaved(true);
+}
+
+TEST_F(Runs, TheResultMayBeClosed) {
+  Frame().Settings().w = 1200;
+  Frame().Settings().h = 1200;
+  RunAnd(kCmFirstFigure, [&] { Frame().ActivePicture()->close(); });
+  EXPECT_TRUE(Pictures().empty());
+  RunAnd(kCmFirstFigure, [&] { delete Frame().ActivePicture(); });
+  EXPECT_TRUE(Pictures().empty());
+  RunAnd(kCmFirstFigure, [&] { Run(kCmCloseAll); });
+  EXPECT_TRUE(Pictures().empty());
+  EXPECT_FALSE(Frame().IsBusy());
+}
+
+TEST_F(Runs, TheFrameClosesOnceTheRunHasStopped) {
+  AddPicture(NoisePicture(1500, 1500, 64));
+  RunAnd(kCmMakeSirds, [&] {
+    EXPECT_FALSE(Frame().close());
+    EXPECT_TRUE(Frame().isVisible());
+  });
+  EXPECT_FALSE(Frame().isVisible());
+  EXPECT_TRUE(std::filesystem::exists(SettingsFile()));
+}
+
+TEST_F(Runs, AFigureMayBeMadeInsideARunAndBothEnd) {
+  AddPicture(NoisePicture(1200, 1200, 64));
+  RunAnd(kCmMakeSirds, [&] {
+    Run(kCmFirstFigure + 3);
+    EXPECT_TRUE(Frame().IsBusy()) << "the first run goes on";
+  });
+  EXPECT_FALSE(Frame().IsBusy());
+  ASSERT_EQ(Pictures().size(), 3U);
+  for (TSirdsWnd* picture : Pictures()) {
+    EXPECT_TRUE(picture->Picture());
+    picture->SetSaved(true);
+  }
+}
+
+TEST_F(Runs, ClosingTheFrameStopsRunsInsideRuns) {
+  AddPicture(NoisePicture(1500, 1500, 64));
+  Frame().Settings().w = 1200;
+  Frame().Settings().h = 1200;
+  RunAnd(kCmMakeSirds, [&] { RunAnd(kCmFirstFigure, [&] { Frame().close(); }); });
+  EXPECT_FALSE(Frame().isVisible());
+}
+
+TEST_F(Runs, WindowsAnswerAndStoppingIsFastDuringALargeRun) {
+  AddPicture(NoisePicture(4000, 3000, 64));
+  qint64 longest = 0;
+  QElapsedTimer sinceTurn;
+  QElapsedTimer sinceStop;
+  QTimer turns;
+  int turn = 0;
+  QObject::connect(&turns, &QTimer::timeout, &turns, [&] {
+    if (sinceTurn.isValid() && turn > 1) longest = std::max(longest, sinceTurn.elapsed());
+    sinceTurn.start();
+    if (++turn == 40) {
+      sinceStop.start();
+      Run(kCmStopProcess);
+    }
+  });
+  turns.start(0);
+  Run(kCmMakeSirds);
+  const qint64 stopped = sinceStop.elapsed();
+  turns.stop();
+  // Four times the time on a quiet machine without sanitizers.
+  EXPECT_GT(turn, 39);
+  EXPECT_LT(longest, 200);
+  EXPECT_LT(stopped, 400);
+  EXPECT_EQ(Pictures().size(), 1U);
+}
+
+}  // namespace
+}  // namespace plenovia

@@ -1,0 +1,18 @@
+// How pictures and windows are shown.
+#pragma once
+
+namespace plenovia {
+
+class TPlenoviaWnd;
+
+void CmZoomIn(TPlenoviaWnd& frame);
+void CmZoomOut(TPlenoviaWnd& frame);
+void CmGrayImage(TPlenoviaWnd& frame);
+
+void CmCascade(TPlenoviaWnd& frame);
+void CmTile(TPlenoviaWnd& frame);
+// Lines the minimised windows up at the bottom.
+void CmArrangeIcons(TPlenoviaWnd& frame);
+void CmCloseAll(TPlenoviaWnd& frame);
+
+}  // namespace plenovia
