@@ -7,8 +7,7 @@ namespace plenovia {
 AlgoWizDlg::AlgoWizDlg(QWidget* parent, const TSirdsSettings& settings)
     : WizardDlg(parent,
                 tr("Select one of the following scan methods to determine the way the Stereogram "
-                   "image will be generated:"),
-                BackButton::kShown),
+                   "image will be generated:")),
       settings_(settings),
       methods_{MakeRadio(103, tr("Left-to-right")), MakeRadio(104, tr("McMahon (recommended)")),
                MakeRadio(105, tr("Feucht"))} {
@@ -21,6 +20,7 @@ AlgoWizDlg::AlgoWizDlg(QWidget* parent, const TSirdsSettings& settings)
     methods_[i]->setFocus();
   }
   Content()->addStretch();
+  AddButtons(BackButton::kShown);
 }
 
 void AlgoWizDlg::OnNext() {

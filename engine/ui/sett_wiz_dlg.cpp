@@ -22,8 +22,7 @@ std::int32_t NumberIn(const QLineEdit& edit) {
 }  // namespace
 
 SettWizDlg::SettWizDlg(QWidget* parent, const TSirdsSettings& settings)
-    : WizardDlg(parent, tr("Specify the dimensions of the resulting Stereogram:"),
-                BackButton::kShown),
+    : WizardDlg(parent, tr("Specify the dimensions of the resulting Stereogram:")),
       settings_(settings),
       width_(MakeEditOf(104, settings.w)),
       height_(MakeEditOf(105, settings.h)),
@@ -49,6 +48,7 @@ SettWizDlg::SettWizDlg(QWidget* parent, const TSirdsSettings& settings)
   note->setTextFormat(Qt::PlainText);
   note->setWordWrap(true);
   Content()->addWidget(note);
+  AddButtons(BackButton::kShown);
 }
 
 void SettWizDlg::OnNext() {

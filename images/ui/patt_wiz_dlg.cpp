@@ -3,12 +3,12 @@
 namespace plenovia {
 
 PattWizDlg::PattWizDlg(QWidget* parent, TSirdPatt& library)
-    : WizardDlg(parent, tr("Select the background pattern for the Stereogram:"),
-                BackButton::kShown),
+    : WizardDlg(parent, tr("Select the background pattern for the Stereogram:")),
       browser_(new PatternBrowser(library)) {
   setObjectName(QStringLiteral("page203"));
   Content()->addWidget(browser_);
   Content()->addStretch();
+  AddButtons(BackButton::kShown);
 }
 
 }  // namespace plenovia

@@ -8,8 +8,7 @@ namespace plenovia {
 
 SourceWizDlg::SourceWizDlg(QWidget* parent, const WizardSource& source,
                            const std::filesystem::path& settingsFile)
-    : WizardDlg(parent, tr("Select a source for generating the Stereogram.  Your choices are:"),
-                BackButton::kNone),
+    : WizardDlg(parent, tr("Select a source for generating the Stereogram.  Your choices are:")),
       source_(source),
       settingsFile_(settingsFile),
       types_{MakeRadio(102, tr("From Bitmap image")), MakeRadio(103, tr("From Depth Map")),
@@ -30,6 +29,7 @@ SourceWizDlg::SourceWizDlg(QWidget* parent, const WizardSource& source,
   NextButton()->setEnabled(!source_.name.isEmpty());
   name_->setText(source_.name);
   CheckType();
+  AddButtons(BackButton::kNone);
 }
 
 void SourceWizDlg::CheckType() {

@@ -17,7 +17,7 @@ constexpr QSize kPictureSize(64, 96);
 
 }  // namespace
 
-WizardDlg::WizardDlg(QWidget* parent, const QString& text, BackButton back)
+WizardDlg::WizardDlg(QWidget* parent, const QString& text)
     : QDialog(parent), content_(new QVBoxLayout), next_(MakeButton(kNext, tr("Next >"))) {
   setWindowTitle(tr("SIRDS Wizard"));
   setMinimumSize(DialogUnits(*this, 222, 119));
@@ -35,9 +35,14 @@ WizardDlg::WizardDlg(QWidget* parent, const QString& text, BackButton back)
   words->setWordWrap(true);
   content_->addWidget(words);
   page->addLayout(content_, 1);
+  auto* all = new QVBoxLayout(this);
+  all->addLayout(page, 1);
+}
 
+void WizardDlg::AddButtons(BackButton back) {
   auto* buttons = new QGridLayout;
   for (int column = 0; column < 3; ++column) buttons->setColumnStretch(column, 1);
+  static_cast<QVBoxLayout*>(layout())->addLayout(buttons);
   if (back == BackButton::kShown) {
     QPushButton* button = MakeButton(kBack, tr("< Back"));
     connect(button, &QPushButton::clicked, this, [this] {
@@ -53,10 +58,6 @@ WizardDlg::WizardDlg(QWidget* parent, const QString& text, BackButton back)
     OnNext();
     done(kNext);
   });
-
-  auto* all = new QVBoxLayout(this);
-  all->addLayout(page, 1);
-  all->addLayout(buttons);
 }
 
 }  // namespace plenovia

@@ -18,12 +18,14 @@ class WizardDlg : public QDialog {
   static constexpr int kBack = 102;
 
  protected:
-  enum class BackButton { kNone, kShown };
-  WizardDlg(QWidget* parent, const QString& text, BackButton back);
+  WizardDlg(QWidget* parent, const QString& text);
 
   // Where the page puts its controls, below the text.
   QVBoxLayout* Content() { return content_; }
   QPushButton* NextButton() { return next_; }
+  enum class BackButton { kNone, kShown };
+  // The last step of making a page, so that the Tab key comes to the buttons last.
+  void AddButtons(BackButton back);
 
   // Called before the page closes with the result of that name.
   virtual void OnNext() {}

@@ -29,6 +29,21 @@ Control& Get(QDialog& dialog, const QString& name) {
   return *control;
 }
 
+// Each stop of the Tab key is to the right of the last one or below it.
+void ExpectTabFollowsTheEye(QDialog& dialog) {
+  const QWidget* last = nullptr;
+  for (QWidget* stop = dialog.nextInFocusChain(); stop != &dialog;
+       stop = stop->nextInFocusChain()) {
+    if ((stop->focusPolicy() & Qt::TabFocus) == 0) continue;
+    if (last != nullptr) {
+      const QPoint step = stop->mapTo(&dialog, QPoint()) - last->mapTo(&dialog, QPoint());
+      EXPECT_TRUE(step.y() > 2 || (step.y() >= -2 && step.x() > 0))
+          << last->objectName().toStdString() << " to " << stop->objectName().toStdString();
+    }
+    last = stop;
+  }
+}
+
 // A page as the user meets it.
 class Page {
  public:
@@ -82,6 +97,7 @@ class Wizard : public testing::Test {
       Page page(dialog);
       EXPECT_EQ(page.Number(), number);
       EXPECT_EQ(page.Has(kBack), number != 201);
+      ExpectTabFollowsTheEye(dialog);
       act(page);
     });
   }
@@ -150,6 +166,7 @@ TEST_F(Wizard, FirstRunOffersTheFirstFigure) {
     page.Key(Qt::Key_Return);
   });
   On(202, [](Page& page) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return page.Edit(104).hasFocus(); }));
     EXPECT_EQ(page.Text(104), "500");
     EXPECT_EQ(page.Text(105), "300");
     EXPECT_EQ(page.Text(103), "1");
