@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "app/help_browser.h"
+#include "platform/ui/resource_pictures.h"
 
 namespace plenovia {
 
@@ -29,6 +30,7 @@ QStringList Words(const QString& text) {
 HelpWindow::HelpWindow(QWidget* parent) : QMainWindow(parent, Qt::Window), pages_(LoadHelpPages()) {
   setObjectName(QStringLiteral("help"));
   setWindowTitle(tr("Plenovia Help"));
+  setWindowIcon(NamedIcon(QStringLiteral("i1")));
   auto* halves = new QSplitter(this);
   found_ = new QListWidget(halves);
   found_->setObjectName(QStringLiteral("found"));
