@@ -1,7 +1,8 @@
 # plenovia_module(NAME [SHARED] SOURCES ... [HEADERS ...] [LINK ...] [PUBLIC_LINK ...])
 #
-# Makes the library NAME of one room. Includes are written from the project's root. Each header
-# named in HEADERS is also compiled alone, so that it includes what it uses.
+# Makes the library NAME of one room. Includes are written from the project's root. In builds
+# with tests (but not again under sanitizers) each header named in HEADERS is also compiled alone, so
+# that it includes what it uses.
 function(plenovia_module name)
   cmake_parse_arguments(arg "SHARED" "" "SOURCES;HEADERS;LINK;PUBLIC_LINK" ${ARGN})
   set(kind STATIC)
@@ -9,7 +10,11 @@ function(plenovia_module name)
     set(kind SHARED)
   endif()
   set(alone)
-  foreach(header IN LISTS arg_HEADERS)
+  set(probed ${arg_HEADERS})
+  if(NOT PLENOVIA_TESTS OR PLENOVIA_SANITIZE)
+    set(probed)
+  endif()
+  foreach(header IN LISTS probed)
     set(probe ${CMAKE_CURRENT_BINARY_DIR}/compiles_alone/${header}.cpp)
     file(RELATIVE_PATH from_root ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/${header})
     file(CONFIGURE OUTPUT ${probe} CONTENT "#include \"${from_root}\"\n#include \"${from_root}\"\n")

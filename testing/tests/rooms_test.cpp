@@ -24,7 +24,7 @@ const std::map<std::string, std::set<std::string>> kRooms = {
     {"cli", {"codec", "depthmap", "engine", "figures", "images", "platform"}},
     {"sirdspat", {"codec", "platform"}},
     {"samples", {"codec", "depthmap", "platform"}},
-    {"bench", {"codec", "depthmap", "engine", "figures", "images", "platform"}},
+    {"bench", {"app", "codec", "depthmap", "engine", "engine/ui", "figures", "images", "platform"}},
     {"fuzz", {"codec", "depthmap", "engine", "platform"}},
     {"testing", {"codec", "depthmap", "engine", "figures", "images", "platform"}},
     {"platform/ui", {"platform"}},
@@ -42,7 +42,7 @@ const std::map<std::string, std::set<std::string>> kRooms = {
 
 // Rooms with windows, the only ones that may know Qt.
 bool HasWindows(const std::string& room) {
-  return room == "app" || room.ends_with("/ui");
+  return room == "app" || room == "bench" || room.ends_with("/ui");
 }
 
 std::string Room(const fs::path& relative) {
