@@ -11,7 +11,7 @@ if ! { cmake --preset release && cmake --build --preset release; } >"$log" 2>&1;
   tail -n 30 "$log" >&2
   exit 1
 fi
-for program in scan_methods make depth_map figures reveal colour_reducer; do
+for program in scan_methods make depth_map map_picture figures reveal colour_reducer; do
   build/release/bench/bench_$program
   echo
 done

@@ -9,12 +9,12 @@
 
 namespace plenovia {
 
-// A written number: its black pixels relative to the middle of its base line.
+// A written number, black on a white box: its black pixels relative to the middle of its base line.
 struct LevelLabel {
   std::int64_t left = 0;
   std::int64_t right = 0;
   std::int64_t top = 0;
-  std::vector<RowSpans> rows;  // from `top` downwards, columns from `left` to `right`
+  std::vector<RowSpans> rows;  // of the box, from its top downwards
 
   std::int64_t Bottom() const { return top + static_cast<std::int64_t>(rows.size()); }
 };

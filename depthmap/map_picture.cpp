@@ -1,6 +1,7 @@
 #include "depthmap/map_picture.h"
 
 #include <algorithm>
+#include <bit>
 #include <limits>
 
 #include "depthmap/object_painting.h"
@@ -8,6 +9,8 @@
 namespace plenovia {
 
 namespace {
+
+constexpr std::size_t kWordBits = 64;
 
 RowIndex::Reach RowsOf(const PixelRect& box, std::size_t id) {
   constexpr std::int64_t kLow = std::numeric_limits<std::int32_t>::min();
@@ -49,7 +52,7 @@ void MapPicture::FollowList() {
     others_.push_back({object, &label, box});
   }
   index_ = RowIndex(reaches);
-  onRow_.assign(others_.size(), false);
+  onRow_.resize(others_.size() / kWordBits + 1);
   for (Layers& row : rows_) row.made = false;
 }
 
@@ -77,24 +80,19 @@ const MapPicture::Layers& MapPicture::LayersAt(int y) {
   Layers& row = rows_[static_cast<std::size_t>(y)];
   if (row.made) return row;
   row = {true, RowCanvas(width_), RowCanvas(width_)};
-  std::size_t first = others_.size();
-  std::size_t end = 0;
-  index_.ForEachAt(y, [&](std::uint32_t place) {
-    onRow_[place] = true;
-    first = std::min<std::size_t>(first, place);
-    end = std::max<std::size_t>(end, std::size_t{place} + 1);
+  std::fill(onRow_.begin(), onRow_.end(), std::uint64_t{0});
+  index_.ForEachAt(y, [this](std::uint32_t place) {
+    onRow_[place / kWordBits] |= std::uint64_t{1} << place % kWordBits;
   });
-  // All marks are taken back, also when nothing below can show any more.
-  bool full = false;
-  for (std::size_t place = first; place < end; ++place) {
-    if (!onRow_[place]) continue;
-    onRow_[place] = false;
-    if (full) continue;
-    const Shown& shown = others_[place];
-    RowCanvas& canvas = place < above_ ? row.above : row.below;
-    if (!canvas.HasRoom({shown.box.left, shown.box.right})) continue;
-    PaintRow(canvas, shown, y);
-    full = canvas.IsFull();
+  for (std::size_t word = 0; word < onRow_.size(); ++word) {
+    for (std::uint64_t left = onRow_[word]; left != 0; left &= left - 1) {
+      const std::size_t place = word * kWordBits + static_cast<std::size_t>(std::countr_zero(left));
+      const Shown& shown = others_[place];
+      RowCanvas& canvas = place < above_ ? row.above : row.below;
+      if (!canvas.HasRoom({shown.box.left, shown.box.right})) continue;
+      PaintRow(canvas, shown, y);
+      if (canvas.IsFull()) return row;
+    }
   }
   return row;
 }

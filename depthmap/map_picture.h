@@ -69,10 +69,10 @@ class MapPicture {
   // Of the list's edition `edition_`, if there is any yet.
   bool follows_ = false;
   std::uint64_t edition_ = 0;
-  std::vector<Shown> others_;  // all but the selected one, topmost first
-  std::size_t above_ = 0;      // how many of them lie above the selected one
-  RowIndex index_;             // of positions in others_
-  std::vector<bool> onRow_;    // by the same position
+  std::vector<Shown> others_;         // all but the selected one, topmost first
+  std::size_t above_ = 0;             // how many of them lie above the selected one
+  RowIndex index_;                    // of positions in others_
+  std::vector<std::uint64_t> onRow_;  // a bit for each position
 };
 
 }  // namespace plenovia

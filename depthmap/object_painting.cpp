@@ -79,7 +79,7 @@ void PaintMarksRow(RowCanvas& canvas, const DepthRect& rect, std::int64_t y) {
 
 PixelPoint LabelPlace(const TDepthObj& object) {
   const PixelRect box = object.GetRect().Normalised();
-  return {box.left + 6, box.top + 12};
+  return {box.left + kLabelOffset.x, box.top + kLabelOffset.y};
 }
 
 void PaintLabelRow(RowCanvas& canvas, const LevelLabel& label, const PixelPoint& place,
@@ -89,6 +89,7 @@ void PaintLabelRow(RowCanvas& canvas, const LevelLabel& label, const PixelPoint&
   for (const Span& span : label.rows[static_cast<std::size_t>(row)]) {
     canvas.Paint(Span{place.x + span.left, place.x + span.right}, Ink::kBlack);
   }
+  canvas.Paint(Span{place.x + label.left, place.x + label.right}, Ink::kWhite);
 }
 
 PixelRect DrawnBox(const TDepthObj& object, const LevelLabel& label) {

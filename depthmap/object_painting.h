@@ -19,7 +19,9 @@ void PaintLineRow(RowCanvas& canvas, const DepthPoint& a, const DepthPoint& b, s
 // The squares at the corners of a selected object.
 void PaintMarksRow(RowCanvas& canvas, const DepthRect& rect, std::int64_t y);
 
-// Where the middle of the base line of the object's label is.
+// Where the middle of the base line of the object's label is, from the top left corner of its
+// rectangle and on the map.
+inline constexpr PixelPoint kLabelOffset{6, 12};
 PixelPoint LabelPlace(const TDepthObj& object);
 void PaintLabelRow(RowCanvas& canvas, const LevelLabel& label, const PixelPoint& place,
                    std::int64_t y);

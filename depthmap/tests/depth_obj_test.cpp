@@ -89,5 +89,14 @@ TEST(DepthObj, APolygonFollowsItsVertices) {
   EXPECT_TRUE(box.ContainsPoint(29, 19));
 }
 
+TEST(DepthRect, ShiftKeepsTheSizeAndTheCornersAtTheEndsOfTheNumbers) {
+  const DepthRect rect{30, 10, 20, 40};
+  EXPECT_EQ(rect.Shifted(5, -3), (DepthRect{35, 7, 25, 37}));
+  EXPECT_EQ(rect.Shifted(std::int64_t{1} << 40, -(std::int64_t{1} << 40)),
+            (DepthRect{kHigh, kLow, kHigh - 10, kLow + 30}));
+  EXPECT_EQ((DepthRect{kLow, kLow, kHigh, kHigh}.Shifted(9, -9)),
+            (DepthRect{kLow, kLow, kHigh, kHigh}));
+}
+
 }  // namespace
 }  // namespace plenovia

@@ -3,6 +3,9 @@
 #include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
+
+#include "depthmap/object_painting.h"
 
 namespace plenovia {
 
@@ -10,6 +13,7 @@ namespace {
 
 constexpr double kPoints = 8;
 constexpr double kPointsPerInch = 72;
+constexpr double kUsualPixels = kPoints / kPointsPerInch * 96;
 
 int PixelSize(const QWidget& widget) {
   return qRound(kPoints / kPointsPerInch * widget.logicalDpiY() * widget.devicePixelRatioF());
@@ -18,7 +22,7 @@ int PixelSize(const QWidget& widget) {
 RowSpans BlackSpans(const QImage& picture, int y, int firstColumn) {
   RowSpans spans;
   for (int x = 0; x < picture.width(); ++x) {
-    if (qGray(picture.pixel(x, y)) > 0) continue;
+    if (qGray(picture.pixel(x, y)) > 127) continue;
     AppendSpan(spans, firstColumn + x, firstColumn + x + 1);
   }
   return spans;
@@ -44,17 +48,18 @@ const LevelLabel& LevelLabelFont::Label(std::int32_t level) {
   const QString text = QString::number(level);
   const QFontMetrics metrics(font_);
   const int toMiddle = metrics.horizontalAdvance(text) / 2;
-  const QRect box = metrics.boundingRect(text).adjusted(-1, -1, 1, 1);
-  QImage picture(box.size(), QImage::Format_Mono);
-  picture.fill(Qt::color1);
+  const QRect box = metrics.tightBoundingRect(text).adjusted(-1, -1, 1, 1);
+  QImage picture(box.size(), QImage::Format_RGB32);
+  picture.fill(Qt::white);
   QPainter painter(&picture);
   painter.setFont(font_);
-  painter.setPen(Qt::color0);
+  painter.setPen(Qt::black);
   painter.drawText(-box.topLeft(), text);
   painter.end();
-  label.left = box.left() - toMiddle;
+  const double further = std::max(0.0, font_.pixelSize() / kUsualPixels - 1);
+  label.left = box.left() - toMiddle + qRound(static_cast<double>(kLabelOffset.x) * further);
   label.right = label.left + box.width();
-  label.top = box.top();
+  label.top = box.top() + qRound(static_cast<double>(kLabelOffset.y) * further);
   for (int y = 0; y < box.height(); ++y) {
     label.rows.push_back(BlackSpans(picture, y, static_cast<int>(label.left)));
   }

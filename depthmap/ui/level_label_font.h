@@ -10,7 +10,8 @@
 namespace plenovia {
 
 // Labels in the widget's font at 8 points, for the display that the widget is on when this is made.
-// Each is drawn once.
+// Where they are larger than on a display of 96 dots an inch, they stand further from the corner of
+// their object. Each is drawn once.
 class LevelLabelFont final : public LevelLabels {
  public:
   explicit LevelLabelFont(const QWidget& widget);

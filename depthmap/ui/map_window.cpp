@@ -274,10 +274,10 @@ void TMapWindow::AddShape() {
 }
 
 void TMapWindow::AddVertex(QPoint point) {
+  InvalidateRubber();
   if (rubber_.IsPolygon()) {
     rubber_.AddVertex(ToDepthPoint(point));
   } else {
-    InvalidateRubber();
     rubber_.Start(PolygonObj, ToDepthRect(Tracking()));
   }
   InvalidateRubber();

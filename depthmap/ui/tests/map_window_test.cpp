@@ -1,108 +1,23 @@
-#include "depthmap/ui/map_window.h"
-
 #include <gtest/gtest.h>
 
-#include <QAbstractScrollArea>
-#include <QCoreApplication>
-#include <QLineEdit>
-#include <QTest>
+#include <string>
+#include <utility>
 #include <vector>
 
-#include "platform/ui/private_message.h"
-#include "testing/ui/dialog_answers.h"
+#include "depthmap/ui/tests/map_window_fixture.h"
 
 namespace plenovia {
 namespace {
 
-// Keeps the private messages; saves a window when it is asked to and has a path.
-class Frame : public QWidget {
- public:
-  std::vector<int> messages;
-  QString savePath;
-
- protected:
-  void customEvent(QEvent* event) override {
-    if (event->type() != PrivateMessage::EventType()) return;
-    const auto& message = *static_cast<PrivateMessage*>(event);
-    messages.push_back(message.number());
-    if (message.number() != WM_SAVECHILD || savePath.isEmpty()) return;
-    static_cast<void>(static_cast<TMapWindow*>(message.window())->WriteDepthMap(savePath));
-  }
-};
-
-class MapWindow : public testing::Test {
- protected:
-  MapWindow() {
-    area.resize(800, 700);
-    area.show();
-    window = Open(400, 400);
-  }
-
-  TMapWindow* Open(int width, int height, const QString& title = QStringLiteral("untitled")) {
-    auto* opened = new TMapWindow(&area, title, width, height, &frame);
-    opened->show();
-    view = opened->findChild<QAbstractScrollArea*>(QStringLiteral("client"))->viewport();
-    QCoreApplication::processEvents();
-    return opened;
-  }
-
-  // A point of the map as the mouse events of the window count it.
-  QPoint At(QPoint point) const { return (QPointF(point) / view->devicePixelRatioF()).toPoint(); }
-
-  void Press(QPoint at, Qt::KeyboardModifiers keys = {}) {
-    QTest::mousePress(view, Qt::LeftButton, keys, At(at));
-  }
-  void Release(QPoint at, Qt::KeyboardModifiers keys = {}) {
-    QTest::mouseRelease(view, Qt::LeftButton, keys, At(at));
-  }
-  void Move(QPoint to, Qt::MouseButtons buttons, Qt::KeyboardModifiers keys = {}) {
-    QMouseEvent event(QEvent::MouseMove, At(to), view->mapToGlobal(At(to)), Qt::NoButton, buttons,
-                      keys);
-    QCoreApplication::sendEvent(view, &event);
-  }
-  void Click(QPoint at) {
-    Press(at);
-    Release(at);
-  }
-  void DoubleClick(QPoint at) {
-    Click(at);
-    QTest::mouseDClick(view, Qt::LeftButton, {}, At(at));
-    Release(at);
-  }
-  void Drag(QPoint from, QPoint to) {
-    Press(from);
-    Move((from + to) / 2, Qt::LeftButton);
-    Move(to, Qt::LeftButton);
-    Release(to);
-  }
-  void Draw(int tool, int level, QPoint from, QPoint to) {
-    window->SetTool(tool);
-    SetLevel(level);
-    Drag(from, to);
-  }
-  void SetLevel(int level) {
-    DialogAnswers answers;
-    answers.Add([=](QDialog& dialog) {
-      dialog.findChild<QLineEdit*>(QStringLiteral("level"))->setText(QString::number(level));
-      dialog.accept();
-    });
-    window->RunCommand(kSetLevel);
-  }
-
-  // What the window shows, a pixel of the map each.
-  QImage Shown() const { return view->grab().toImage().convertToFormat(QImage::Format_RGB32); }
-
-  QMdiArea area;
-  Frame frame;
-  TMapWindow* window;
-  QWidget* view = nullptr;
-};
-
-TEST_F(MapWindow, NewMapFillsTheWindowAndAsksBeforeItCloses) {
+TEST_F(MapWindow, NewMapFillsTheWindow) {
   EXPECT_EQ(window->ClientSize(), QSize(400, 400));
+  EXPECT_EQ(window->windowTitle(), kUntitled);
+  EXPECT_EQ(window->GetWindowKind(), kDepthMapWindow);
   EXPECT_EQ(window->CurrentTool(), kSelectTool);
+  EXPECT_EQ(Top(), "3(0,0,400,400)=0");
   EXPECT_EQ(window->Objects().CountObjects(), 1);
   EXPECT_FALSE(window->IsSaved());
+  EXPECT_EQ(Open(401, 300)->GetImageSize(), 121200u);
 }
 
 TEST_F(MapWindow, SizeWaitsForTheWindowToBeNormal) {
@@ -113,12 +28,193 @@ TEST_F(MapWindow, SizeWaitsForTheWindowToBeNormal) {
   second->showNormal();
   QCoreApplication::processEvents();
   EXPECT_EQ(second->ClientSize(), QSize(300, 210));
-  auto* third = new TMapWindow(&area, QStringLiteral("untitled"), 310, 210, &frame);
-  third->showMinimized();
-  QCoreApplication::processEvents();
-  third->showNormal();
-  QCoreApplication::processEvents();
-  EXPECT_EQ(third->ClientSize(), QSize(310, 210));
+}
+
+TEST_F(MapWindow, EachToolDrawsItsShapeWithTheCornersOfTheDrag) {
+  const std::vector<std::pair<int, const char*>> cases{{kLineTool, "1(200,150,100,50)=7"},
+                                                       {kCurveTool, "2(200,150,100,50)=7"},
+                                                       {kSquareBoxTool, "3(200,150,100,50)=7"},
+                                                       {kRoundBoxTool, "4(200,150,100,50)=7"},
+                                                       {kCircleTool, "6(200,150,100,50)=7"}};
+  for (const auto& [tool, expected] : cases) {
+    Draw(tool, 7, {200, 150}, {100, 50});
+    EXPECT_EQ(Top(), expected);
+    EXPECT_EQ(window->Objects().Selected(), window->Objects().Head());
+  }
+  EXPECT_EQ(window->Objects().GetLevelAt(150, 100), 7);
+  EXPECT_EQ(window->Objects().GetLevelAt(200, 100), 0);
+}
+
+TEST_F(MapWindow, OnlyADragWithTheLeftButtonAloneDraws) {
+  window->RunCommand(kSquareBoxTool);
+  Click({50, 50});
+  Press({10, 10}, Qt::ShiftModifier);
+  Pull({60, 60}, Qt::ShiftModifier);
+  Release({60, 60});
+  EXPECT_EQ(window->Objects().CountObjects(), 1);
+
+  Press({10, 10});
+  Pull({11, 10});
+  Pull({90, 60}, Qt::ControlModifier);
+  Release({-5, 500});  // outside of the window
+  EXPECT_EQ(Top(), "3(10,10,-5,500)=0");
+  Drag({50, 50}, {51, 50});
+  EXPECT_EQ(Top(), "3(50,50,51,50)=0");
+  EXPECT_EQ(window->Objects().CountObjects(), 3);
+}
+
+TEST_F(MapWindow, PolygonCollectsClicksUpToADoubleClick) {
+  window->RunCommand(kPolygonTool);
+  for (const QPoint vertex : {QPoint(10, 10), {100, 10}, {100, 100}}) Click(vertex);
+  Hover({30, 70});
+  SetLevel(33);  // counts when the polygon is finished
+  DoubleClick({10, 100});
+  EXPECT_EQ(Top(), "5(10,10,100,10,100,100,10,100)=33");
+  EXPECT_EQ(window->Objects().Selected(), nullptr);
+  EXPECT_EQ(window->Objects().GetLevelAt(50, 50), 33);
+
+  for (int i = 0; i < 66; ++i) Click({20 + 5 * i, 200 + i % 2});
+  DoubleClick({200, 300});
+  EXPECT_EQ(window->Objects().Head()->GetPoints().size(), 64u);
+}
+
+TEST_F(MapWindow, UnfinishedPolygonLivesUntilAnotherToolIsUsed) {
+  for (const int other : {kSelectTool, kSquareBoxTool}) {
+    window->RunCommand(kPolygonTool);
+    Click({10, 10});
+    window->RunCommand(other);
+    window->RunCommand(kPolygonTool);
+    Click({50, 10});
+    window->RunCommand(other);
+    Drag({200, 200}, {220, 220});
+    window->RunCommand(kPolygonTool);
+    DoubleClick({50, 50});
+    EXPECT_EQ(Top(), "5(50,50)=0") << "begun anew";
+  }
+}
+
+TEST_F(MapWindow, LevelsAreTakenAndGivenWithoutMakingTheMapUnsaved) {
+  Draw(kSquareBoxTool, 120, {10, 10}, {60, 60});
+  Draw(kCircleTool, 40, {100, 100}, {200, 200});
+  ASSERT_TRUE(window->WriteDepthMap(PathToQString(folder / "map.rds")));
+  window->RunCommand(kGetLevelTool);
+  Click({30, 30});
+  EXPECT_EQ(window->Objects().CurrentLevel(), 120);
+  window->RunCommand(kApplyLevelTool);
+  Click({150, 150});
+  EXPECT_EQ(Stack(), "120 120 0");
+  SetLevel(30);
+  Click({300, 300});
+  EXPECT_EQ(window->Objects().GetLevelAt(399, 0), 30);
+  EXPECT_EQ(window->Objects().Selected(), window->Objects().Background());
+  EXPECT_TRUE(window->IsSaved());
+  window->RunCommand(kSquareBoxTool);
+  Drag({5, 5}, {9, 9});
+  EXPECT_EQ(Top(), "3(5,5,9,9)=30");
+  EXPECT_FALSE(window->IsSaved());
+}
+
+TEST_F(MapWindow, MoveToolShiftsWhatIsUnderTheMouse) {
+  Draw(kCurveTool, 5, {60, 60}, {10, 10});
+  ASSERT_TRUE(window->WriteDepthMap(PathToQString(folder / "map.rds")));
+  window->RunCommand(kMoveTool);
+  Drag({30, 30}, {130, 20});
+  EXPECT_EQ(Top(), "2(160,50,110,0)=5");
+  Drag({300, 300}, {310, 290});
+  EXPECT_EQ(Text(*window->Objects().Background()), "3(10,-10,410,390)=0");
+  Click({5, 5});
+  EXPECT_EQ(window->Objects().Selected(), nullptr) << "nothing is there any more";
+  Drag({5, 5}, {50, 50});
+  EXPECT_TRUE(window->IsSaved());
+  EXPECT_EQ(window->ClientSize(), QSize(400, 400));
+}
+
+TEST_F(MapWindow, CommandsChangeTheStackAndTellOfIt) {
+  for (const int level : {1, 2, 3}) Draw(kSquareBoxTool, level, {10, 10}, {60, 60});
+  ASSERT_TRUE(window->WriteDepthMap(PathToQString(folder / "map.rds")));
+  int changes = 0;
+  QObject::connect(window, &TMouseWnd::StateChanged, window, [&] { ++changes; });
+  window->RunCommand(kMoveObjectDown);
+  EXPECT_EQ(Stack(), "2 3 1 0");
+  EXPECT_FALSE(window->IsSaved());
+  EXPECT_EQ(changes, 1);
+  window->RunCommand(kMoveObjectUp);
+  window->RunCommand(kMoveObjectUp);
+  EXPECT_EQ(Stack(), "3 2 1 0");
+  window->RunCommand(kDeleteObject);
+  EXPECT_EQ(Stack(), "2 1 0");
+  window->RunCommand(kDeleteObject);
+  EXPECT_EQ(Stack(), "2 1 0") << "nothing is selected";
+  EXPECT_EQ(changes, 2);
+  std::string handled;
+  for (int command = 1250; command <= 1267; ++command) {
+    handled += window->HandlesCommand(command) ? "x" : "-";
+  }
+  EXPECT_EQ(handled, "-xxxx-xxxxxxxxxx--");
+}
+
+TEST_F(MapWindow, ToolBelongsToTheWindowThatIsActive) {
+  window->RunCommand(kCircleTool);
+  auto* second = Open(100, 100);
+  std::vector<int> tools;
+  for (TMapWindow* each : {window, second}) {
+    QObject::connect(each, &TMapWindow::ToolChanged, each,
+                     [&](int tool) { tools.push_back(tool); });
+  }
+  frame.messages.clear();
+  area.setActiveSubWindow(window);
+  EXPECT_EQ(frame.messages, std::vector<int>{WM_UPDATESTATUS});
+  area.setActiveSubWindow(second);
+  second->RunCommand(kLineTool);
+  EXPECT_EQ(tools, (std::vector<int>{kCircleTool, kSelectTool, kLineTool}));
+}
+
+TEST_F(MapWindow, ScreenShowsEveryChange) {
+  Draw(kSquareBoxTool, 200, {10, 10}, {160, 160});
+  Draw(kCircleTool, 5, {100, 100}, {240, 200});
+  Draw(kLineTool, 222, {300, 40}, {300, 50});  // narrower and lower than its label
+  ExpectScreenUpToDate("drawing");
+  window->RunCommand(kMoveTool);
+  Press({50, 50});
+  for (const QPoint to : {QPoint(60, 80), {200, 120}, {330, 300}}) {
+    Pull(to);
+    ExpectScreenUpToDate("moving");
+  }
+  Release({330, 300});
+  window->RunCommand(kMoveObjectUp);
+  ExpectScreenUpToDate("moving up");
+  window->RunCommand(kSelectTool);
+  Click({170, 150});
+  ExpectScreenUpToDate("selecting");
+  window->RunCommand(kDeleteObject);
+  ExpectScreenUpToDate("deleting");
+
+  window->RunCommand(kApplyLevelTool);
+  SetLevel(0);
+  Click({300, 45});
+  ExpectScreenUpToDate("a shorter label");
+  window->RunCommand(kRoundBoxTool);
+  Press({20, 220});
+  for (const QPoint to : {QPoint(120, 280), {40, 240}, {10, 200}}) {
+    Pull(to);
+    ExpectScreenUpToDate("pulling an outline");
+  }
+  Release({20, 220});
+  window->RunCommand(kPolygonTool);
+  for (const QPoint to : {QPoint(350, 50), {200, 300}, {90, 120}}) {
+    Click(to);
+    ExpectScreenUpToDate("a vertex");
+    Hover({30, 60});
+    Hover(to + QPoint(20, 5));
+    ExpectScreenUpToDate("the line to the mouse");
+  }
+  DoubleClick({120, 60});
+  ExpectScreenUpToDate("a polygon");
+  Click({30, 30});
+  Hover({380, 380});
+  window->RunCommand(kGetLevelTool);
+  Click({5, 390});
+  ExpectScreenUpToDate("giving a polygon up");
 }
 
 }  // namespace
