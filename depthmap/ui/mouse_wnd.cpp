@@ -31,13 +31,19 @@ TMouseWnd::TMouseWnd(QMdiArea* client, const QString& title, QWidget* frame)
   setWindowTitle(title);
   setWidget(view_);
   client->addSubWindow(this);
-  connect(client, &QMdiArea::subWindowActivated, this, [this, client](QMdiSubWindow* window) {
-    // No window is told when the program goes to the background: then the current one stays.
-    const QMdiSubWindow* current = window != nullptr ? window : client->currentSubWindow();
-    if (active_ == (current == this)) return;
-    active_ = !active_;
-    EvMDIActivate(active_);
-  });
+  activation_ =
+      connect(client, &QMdiArea::subWindowActivated, this, [this, client](QMdiSubWindow* window) {
+        // No window is told when the program goes to the background: then the current one stays.
+        const QMdiSubWindow* current = window != nullptr ? window : client->currentSubWindow();
+        if (active_ == (current == this)) return;
+        active_ = !active_;
+        EvMDIActivate(active_);
+      });
+}
+
+TMouseWnd::~TMouseWnd() {
+  // The area makes another window the active one while this one is half gone.
+  disconnect(activation_);
 }
 
 QSize TMouseWnd::ClientSize() const {
@@ -45,10 +51,8 @@ QSize TMouseWnd::ClientSize() const {
 }
 
 void TMouseWnd::SetClientSize(const QSize& size) {
-  const QSize logical = LogicalArea(QRect(QPoint(), size)).size();
-  // In a window too small for its own frame the view has no size to reckon with, only after the
-  // first step.
-  for (int step = 0; step < 2; ++step) resize(this->size() + logical - view_->size());
+  wantedClient_ = size;
+  TakeWantedSize();
 }
 
 void TMouseWnd::SetWindowSize(const QSize& size) {
@@ -58,11 +62,11 @@ void TMouseWnd::SetWindowSize(const QSize& size) {
 
 void TMouseWnd::TakeWantedSize() {
   if (!wantedClient_ || !isVisible() || isMaximized() || isMinimized()) return;
-  // Scroll bars that stand in the way go once there is room, so the room is made first.
-  const QSize now = view_->size();
   const QSize logical = LogicalArea(QRect(QPoint(), *wantedClient_)).size();
   wantedClient_.reset();
-  resize(size() + logical - now);
+  // In a window too small for its own frame the view has no size to reckon with, only after the
+  // first step.
+  for (int step = 0; step < 2; ++step) resize(size() + logical - view_->size());
 }
 
 void TMouseWnd::EvLButtonDblClk(MouseKeys keys, QPoint point) {

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMetaObject>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -40,6 +41,7 @@ class TMouseWnd : public QMdiSubWindow {
  public:
   // A hidden window in the document area `client`. `frame` receives its private messages.
   TMouseWnd(QMdiArea* client, const QString& title, QWidget* frame);
+  ~TMouseWnd() override;
 
   virtual int GetWindowKind() const { return kind_; }
   virtual void SetWindowKind(int kind) { kind_ = kind; }
@@ -129,6 +131,7 @@ class TMouseWnd : public QMdiSubWindow {
   int kind_ = 0;
   int cursorId_ = 0;
   std::optional<QSize> wantedClient_;
+  QMetaObject::Connection activation_;
   bool active_ = false;
   TrackRect tracking_;
   QPoint buttonDownPoint_;
