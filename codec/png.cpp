@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "codec/before_white.h"
 #include "codec/byte_stream.h"
 #include "codec/colour_reducer.h"
 #include "codec/png_errors.h"
@@ -14,10 +15,6 @@ namespace plenovia {
 namespace {
 
 constexpr int kLevel = 1;  // deflate: stereograms shrink to 6 to 8 %, twice as fast as at 6
-
-std::uint8_t BeforeWhite(int level, int alpha) {
-  return static_cast<std::uint8_t>((level * alpha + 255 * (255 - alpha) + 127) / 255);
-}
 
 // Puts the pixels where they belong in a picture.
 void Scatter(std::span<const std::uint8_t> pixels, const PngRowPlace& place,
@@ -62,8 +59,7 @@ Result<void> ReadColourRows(PngReader& file, const UseRow& useRow) {
       const auto from = row.subspan(x * channels, channels);
       pixels[x] = {from[0], from[1], from[2]};
       if (channels == 3 || from[3] == 255) continue;
-      pixels[x] = {BeforeWhite(from[0], from[3]), BeforeWhite(from[1], from[3]),
-                   BeforeWhite(from[2], from[3])};
+      pixels[x] = BeforeWhite(pixels[x], from[3]);
     }
     useRow(place, std::span<const Rgb>(pixels));
   });
