@@ -6,6 +6,7 @@
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QRectF>
 #include <algorithm>
 #include <cstddef>
 #include <span>
@@ -24,6 +25,9 @@ constexpr int kJobNameLength = 50;
 constexpr int kBandDots = 1 << 22;
 // A viewer that softens the edges of images would let the paper shine through between two bands.
 constexpr int kBandOverlap = 32;
+// Places are rounded on their way to the paper. A band that then ended a little beyond a dot's edge
+// would be stretched over one dot more. In dots.
+constexpr qreal kInset = 0.01;
 
 class BusyCursor {
  public:
@@ -47,7 +51,8 @@ bool DrawPicture(QPainter& painter, const IndexedImage& picture, const PrintLayo
     RenderForPrint(picture, layout, top,
                    {reinterpret_cast<std::uint32_t*>(band.bits()),
                     static_cast<std::size_t>(band.sizeInBytes()) / sizeof(std::uint32_t)});
-    painter.drawImage(layout.left, layout.top + top, band);
+    const QRectF place(layout.left, layout.top + top, band.width(), band.height());
+    painter.drawImage(place.adjusted(kInset, kInset, -kInset, -kInset), band);
   }
   return true;
 }
