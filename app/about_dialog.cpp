@@ -1,9 +1,10 @@
 #include "app/about_dialog.h"
 
 #include <QDialogButtonBox>
-#include <QIcon>
 #include <QLabel>
 #include <QVBoxLayout>
+
+#include "platform/ui/resource_pictures.h"
 
 namespace plenovia {
 
@@ -18,7 +19,7 @@ TAboutDialog::TAboutDialog(QWidget* parent) : QDialog(parent) {
   setWindowTitle(tr("About"));
   auto* picture = new QLabel(this);
   picture->setPixmap(
-      QIcon(QStringLiteral(":/start_up.svg")).pixmap(kPictureSize, devicePixelRatioF()));
+      DrawnPicture(QStringLiteral(":/start_up.svg"), kPictureSize, devicePixelRatioF()));
   auto* line = new QLabel(tr("Win32 Version"), this);
   line->setAlignment(Qt::AlignCenter);
   auto* version = new QLabel(QStringLiteral("Plenovia " PLENOVIA_VERSION), this);

@@ -64,6 +64,14 @@ bool BarButton::event(QEvent* event) {
   return handled;
 }
 
+QPixmap BarButton::Picture() {
+  if (picture_.isNull() || picture_.devicePixelRatioF() != devicePixelRatioF()) {
+    picture_ = DrawnPicture(ButtonPictureFile(command_), QSize(pictureSize_, pictureSize_),
+                            devicePixelRatioF());
+  }
+  return picture_;
+}
+
 void BarButton::paintEvent(QPaintEvent*) {
   QStyleOptionToolButton option;
   initStyleOption(&option);
@@ -77,9 +85,7 @@ void BarButton::paintEvent(QPaintEvent*) {
     painter.fillRect(rect().adjusted(1, 1, -1, -1), pressed);
   }
 
-  const QSize size(pictureSize_, pictureSize_);
-  const QPixmap face =
-      face_.isNull() ? ButtonPicture(command_).pixmap(size, devicePixelRatioF()) : face_;
+  const QPixmap face = face_.isNull() ? Picture() : face_;
   if (face.isNull()) {
     QFont small = font();
     small.setPixelSize(kNumberHeight);

@@ -28,8 +28,12 @@ class BarButton : public QToolButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  // The command's picture, drawn for the display's scale factor.
+  QPixmap Picture();
+
   int command_;
   int pictureSize_;
+  QPixmap picture_;
   QPixmap face_;
 };
 

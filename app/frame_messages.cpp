@@ -77,24 +77,22 @@ void Progress(TPlenoviaWnd& frame, PrivateMessage& message) {
       status.ClearHint();
       frame.OperationBegins();
       frame.SetBusyCursor(true);
-      status.SetProgress(0);
       status.SetMessage(ToQString(info.text));
+      status.SetProgress(0);
       break;
     case ProgressPhase::kEnd:
       status.SetProgress(100);
-      status.SetProgress(0);
       status.SetMessage({});
-      status.repaint();
+      status.SetProgress(0);
       frame.SetBusyCursor(false);
       frame.OperationEnds();
-      return;
+      break;
     case ProgressPhase::kFirstStep:
     case ProgressPhase::kStep:
-      status.SetProgress(percent);
       status.SetMessage(ToQString(info.text));
+      status.SetProgress(percent);
       break;
   }
-  status.repaint();
 }
 
 void AddPattern(TPlenoviaWnd& frame, PrivateMessage& message) {

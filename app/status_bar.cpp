@@ -81,8 +81,12 @@ void TCStatusBar::SetProgress(int percent) {
     gaugeShown_ = true;
     gauge_->show();
   }
+  // The gauge would paint itself once more than is needed.
+  gauge_->setUpdatesEnabled(false);
   gauge_->setValue(percent);
-  RepaintNow();
+  gauge_->setUpdatesEnabled(true);
+  message_->parentWidget()->layout()->activate();
+  message_->parentWidget()->repaint();
 }
 
 void TCStatusBar::SetImageText(const QString& text) {

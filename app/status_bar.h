@@ -25,7 +25,7 @@ class TCStatusBar : public QStatusBar {
   void SetHint(const QString& text);
   // Shows the message again, and the gauge.
   void ClearHint();
-  // 0 to 100. A gauge that a hint hides comes back. Repaints at once.
+  // 0 to 100. A gauge that a hint hides comes back. Repaints gauge and message at once.
   void SetProgress(int percent);
   // The two fields. Repaint at once.
   void SetImageText(const QString& text);

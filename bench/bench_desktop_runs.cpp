@@ -85,7 +85,7 @@ void MeasureAnswers(Program& program, const std::shared_ptr<const IndexedImage>&
     if (turns > 0) longest = std::max(longest, sinceTurn.nsecsElapsed());
     window->repaint();
     sinceTurn.start();
-    if (++turns != 100) return;
+    if (++turns != 6) return;
     sinceStop.start();
     program.Frame().Commands().Run(kCmStopProcess);
   });
@@ -118,7 +118,7 @@ void OpenAndClose(Program& program, int times) {
 }
 
 void MeasureMemory(Program& program) {
-  OpenAndClose(program, 5);
+  OpenAndClose(program, 20);
   const double before = ResidentMegabytes();
   OpenAndClose(program, 100);
   const double after = ResidentMegabytes();

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# What ./test.sh leaves out: the format, a build with Clang, the tests under the sanitizers, and
-# every fuzz target for some seconds. Installs what it needs.
+# What ./test.sh leaves out: the format, a build with Clang, the tests under the sanitizers, the desktop
+# program in a real window, and every fuzz target for some seconds. Installs what it needs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
-need_packages "${build_packages[@]}" "${test_packages[@]}" "${check_packages[@]}"
+need_packages "${build_packages[@]}" "${test_packages[@]}" "${check_packages[@]}" "${display_packages[@]}"
 seconds=${FUZZ_SECONDS:-10}
 
 echo "== format"
@@ -22,6 +22,9 @@ echo "== sanitizers"
 cmake --preset asan
 cmake --build --preset asan
 ctest --preset asan
+
+echo "== the desktop program on a virtual display"
+scripts/desktop_smoke.sh build/clang/bin
 
 echo "== fuzz targets, $seconds seconds each"
 cmake --preset fuzz

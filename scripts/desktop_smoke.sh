@@ -21,7 +21,6 @@ mkfifo "$work/display"
 Xvfb -displayfd 3 -screen 0 1280x1000x24 3>"$work/display" >/dev/null 2>&1 &
 read -r number <"$work/display"
 export DISPLAY=:$number
-openbox >/dev/null 2>&1 &
 
 # wait_for WHAT COMMAND...: until the command succeeds, at most half a minute.
 wait_for() {
@@ -47,6 +46,8 @@ keys() {
   done
 }
 
+openbox >/dev/null 2>&1 &
+wait_for "the window manager" xdotool get_num_desktops
 "$bin/plenovia" >"$work/log" 2>&1 &
 program=$!
 wait_for "the frame" has_window '^Plenovia$'

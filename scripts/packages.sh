@@ -49,3 +49,5 @@ build_packages=(
 test_packages=(libgtest-dev)
 # To check it as thoroughly as the continuous integration does.
 check_packages=(clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev)
+# To use the desktop program without a display.
+display_packages=(xvfb openbox xdotool)

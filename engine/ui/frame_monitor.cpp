@@ -7,6 +7,13 @@
 
 namespace plenovia {
 
+namespace {
+
+// A band can take less than handling events does.
+constexpr qint64 kNanosecondsBetweenPumps = 1'000'000;
+
+}  // namespace
+
 void FrameMonitor::OnProgress(ProgressPhase phase, const ProgressInfo& progress) {
   SendPrivateMessage(frame_, PrivateMessage(phase, progress));
   if (phase == ProgressPhase::kFirstStep && updatesStatus_) {
@@ -15,7 +22,9 @@ void FrameMonitor::OnProgress(ProgressPhase phase, const ProgressInfo& progress)
 }
 
 bool FrameMonitor::StopRequested() {
+  if (sincePump_.isValid() && sincePump_.nsecsElapsed() < kNanosecondsBetweenPumps) return false;
   const bool stops = PumpAndCheckAbort(frame_) != 0;
+  sincePump_.start();
   if (stops && beeps_) QApplication::beep();
   return stops;
 }

@@ -1,6 +1,7 @@
 // The line from a generation run to the main frame.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QWidget>
 
@@ -8,8 +9,8 @@
 
 namespace plenovia {
 
-// Sends the run's progress as WM_PROGRESS, keeps the windows alive between bands and notices when
-// the run shall stop.
+// Sends the run's progress as WM_PROGRESS, keeps the windows alive between bands, though not more
+// often than each millisecond, and notices when the run shall stop.
 class FrameMonitor final : public RunMonitor {
  public:
   explicit FrameMonitor(QWidget* frame) : frame_(frame) {}
@@ -24,6 +25,7 @@ class FrameMonitor final : public RunMonitor {
 
  private:
   QPointer<QWidget> frame_;
+  QElapsedTimer sincePump_;  // of the last time that events were handled
   bool beeps_ = false;
   bool updatesStatus_ = false;
 };

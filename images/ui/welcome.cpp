@@ -1,8 +1,9 @@
 #include "images/ui/welcome.h"
 
-#include <QIcon>
 #include <QPainter>
 #include <QThread>
+
+#include "platform/ui/resource_pictures.h"
 
 namespace plenovia {
 
@@ -15,7 +16,7 @@ constexpr QSize kPictureSize(400, 260);
 
 TWelcome::TWelcome(const QString& title, const QString& picture, int units, const QRect& area)
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint),
-      picture_(QIcon(picture).pixmap(kPictureSize, devicePixelRatioF())),
+      picture_(DrawnPicture(picture, kPictureSize, devicePixelRatioF())),
       delay_(units * kMillisecondsAUnit) {
   setObjectName(QStringLiteral("welcome"));
   setWindowTitle(title);

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QPainter>
 #include <QPixmap>
+#include <QPixmapCache>
 #include <QPoint>
 #include <QSvgRenderer>
 
@@ -31,8 +32,23 @@ QPoint HotSpot(int id) {
 
 }  // namespace
 
+QPixmap DrawnPicture(const QString& file, const QSize& size, qreal scaleFactor) {
+  if (!QFile::exists(file)) return {};
+  QPixmap picture(size * scaleFactor);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  QSvgRenderer(file).render(&painter);
+  painter.end();
+  picture.setDevicePixelRatio(scaleFactor);
+  return picture;
+}
+
+QString ButtonPictureFile(int command) {
+  return QStringLiteral(":/buttons/%1.svg").arg(command);
+}
+
 QIcon ButtonPicture(int command) {
-  const QString file = QStringLiteral(":/buttons/%1.svg").arg(command);
+  const QString file = ButtonPictureFile(command);
   return QFile::exists(file) ? QIcon(file) : QIcon();
 }
 
@@ -44,12 +60,12 @@ QIcon NamedIcon(const QString& name) {
 QCursor CursorById(int id, qreal scaleFactor) {
   const QString file = QStringLiteral(":/cursors/%1.svg").arg(id);
   if (!QFile::exists(file)) return QCursor(Qt::ArrowCursor);
-  QPixmap picture(QSize(kCursorSide, kCursorSide) * scaleFactor);
-  picture.fill(Qt::transparent);
-  QPainter painter(&picture);
-  QSvgRenderer(file).render(&painter);
-  painter.end();
-  picture.setDevicePixelRatio(scaleFactor);
+  const QString key = QStringLiteral("cursor %1 %2").arg(id).arg(scaleFactor);
+  QPixmap picture;
+  if (!QPixmapCache::find(key, &picture)) {
+    picture = DrawnPicture(file, QSize(kCursorSide, kCursorSide), scaleFactor);
+    QPixmapCache::insert(key, picture);
+  }
   const QPoint hot = HotSpot(id);
   return QCursor(picture, hot.x(), hot.y());
 }

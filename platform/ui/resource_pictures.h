@@ -3,10 +3,18 @@
 
 #include <QCursor>
 #include <QIcon>
+#include <QPixmap>
+#include <QSize>
 #include <QString>
 
 namespace plenovia {
 
+// A drawing (a resource) in this size in logical pixels, for a display with this scale factor; a
+// null pixmap when there is none.
+QPixmap DrawnPicture(const QString& file, const QSize& size, qreal scaleFactor);
+
+// The resource with the face of the button of a command.
+QString ButtonPictureFile(int command);
 // The face of the button of a command; an empty icon when there is none.
 QIcon ButtonPicture(int command);
 // "i1" the program, "i2" a picture window, "i3" a depth map.
