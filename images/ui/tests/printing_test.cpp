@@ -118,23 +118,18 @@ TEST_F(Printing, EveryDotIsABlockOnTheRenderedPage) {
   EXPECT_EQ(told, "Plenovia - Spooling ...|Plenovia|Plenovia - Spooling ...|Plenovia|");
 }
 
-TEST_F(Printing, WithoutAPrinterTheUserIsToldAndNothingIsWritten) {
+TEST_F(Printing, WithoutAChoiceItGoesToTheDefaultPrinterAndThereIsNone) {
   if (!QPrinterInfo::defaultPrinter().isNull()) GTEST_SKIP() << "this system has a printer";
-  DialogAnswers answers;
-  ExpectNoPrinter(answers);
-  Print(Picture(10, 10));
-  EXPECT_EQ(told, "Plenovia|");
-  Print(IndexedImage());
-}
-
-TEST_F(Printing, ACancelledSetupGoesBackToTheDefaultPrinter) {
-  if (!QPrinterInfo::defaultPrinter().isNull()) GTEST_SKIP() << "this system has a printer";
-  SetUpPrinter(PathToQString(folder / "page.pdf"));
-  SetUpPrinter(QString());
-  DialogAnswers answers;
-  ExpectNoPrinter(answers);
-  Print(Picture(10, 10));
+  for (const bool cancelled : {false, true}) {
+    if (cancelled) SetUpPrinter(PathToQString(folder / "page.pdf"));
+    if (cancelled) SetUpPrinter(QString());
+    DialogAnswers answers;
+    ExpectNoPrinter(answers);
+    Print(Picture(10, 10));
+  }
+  EXPECT_EQ(told, "Plenovia|Plenovia|");
   EXPECT_EQ(folder.Count(), 0);
+  Print(IndexedImage());
 }
 
 TEST_F(Printing, AFileThatCannotBeWrittenIsTold) {
