@@ -66,7 +66,8 @@ keys alt+g m
 sleep 2
 picture made
 
-keys alt+f s
+# Two items of the menu begin with S.
+keys alt+f s Return
 wait_for "the save dialog" has_window '^Save$'
 xdotool type "$work/made.gif"
 keys Return
