@@ -3,6 +3,7 @@
 #include <QtGlobal>
 
 #include "app/enablers.h"
+#include "app/exchange_commands.h"
 #include "app/file_commands.h"
 #include "app/info_commands.h"
 #include "app/sirds_commands.h"
@@ -28,12 +29,12 @@ constexpr CommandRow kCommands[] = {
     {kFile, kCmSave, T("&Save"), T("Save Image to Disk"), &CmFileSave, &CanSave},
     {kFile, kCmSaveAs, T("&Save As..."), T("Save Under new file name"), nullptr, nullptr},
     {kFile, 0, nullptr, nullptr, nullptr, nullptr},
-    {kFile, kCmPrint, T("&Print"), T("Print Image"), nullptr, nullptr},
-    {kFile, kCmPrinterSetup, T("P&rinter Setup"), T("Access Printer Setup"), nullptr, nullptr},
+    {kFile, kCmPrint, T("&Print"), T("Print Image"), &CmPrint, &CanWorkOnPicture},
+    {kFile, kCmPrinterSetup, T("P&rinter Setup"), T("Access Printer Setup"), &CmPrinterSetup, nullptr},
     {kFile, 0, nullptr, nullptr, nullptr, nullptr},
     {kFile, kCmExit, T("E&xit"), T("Exit Plenovia"), &CmExit, &IsIdle},
-    {kEdit, kCmCopy, T("&Copy"), T("Copy to Clipboard"), nullptr, nullptr},
-    {kEdit, kCmPaste, T("&Paste"), T("Paste from Clipboard"), nullptr, nullptr},
+    {kEdit, kCmCopy, T("&Copy"), T("Copy to Clipboard"), &CmCopy, &CanCopy},
+    {kEdit, kCmPaste, T("&Paste"), T("Paste from Clipboard"), &CmPaste, &CanPaste},
     {kGraphics, kCmVideoInformation, T("&Video Information"), T("Get Information about the operating video driver"), &CmVideoInformation, nullptr},
     {kGraphics, 0, nullptr, nullptr, nullptr, nullptr},
     {kGraphics, kCmZoomIn, T("Zoom &In"), T("Zoom In"), &CmZoomIn, &CanZoomIn},
@@ -45,7 +46,7 @@ constexpr CommandRow kCommands[] = {
     {kGraphics, kCmGrayImage, T("&Gray Image"), T("Turn current image into a gray scale image"), &CmGrayImage, nullptr},
     {kGraphics, kCmSettings, T("&SIRDS Settings"), T("Edit SIRDS Setup parameters"), &CmSettings, nullptr},
     {kGraphics, kCmPatterns, T("SIRDS &Patterns"), T("Select a SIRDS Pattern"), &CmPatterns, nullptr},
-    {kGraphics, kCmColorTable, T("Color &Table"), T("View the Color Map for a loaded image"), nullptr, nullptr},
+    {kGraphics, kCmColorTable, T("Color &Table"), T("View the Color Map for a loaded image"), &CmColorTable, &CanCopy},
     {kMath, kCmVersion, T("&Version"), T("Get Math Library version"), &CmVersion, nullptr},
     {kMath, 0, nullptr, nullptr, nullptr, nullptr},
     {kWindow, kCmCascade, T("&Cascade"), T("Cascade all Windows"), &CmCascade, &HasWindows},

@@ -3,6 +3,7 @@
 #include "app/plenovia_wnd.h"
 #include "depthmap/ui/map_window.h"
 #include "engine/ui/sirds_wnd.h"
+#include "images/ui/clipboard.h"
 
 namespace plenovia {
 
@@ -36,6 +37,10 @@ bool CanWorkOnPicture(const TPlenoviaWnd& frame) {
 bool CanCopy(const TPlenoviaWnd& frame) {
   const int kind = ActiveKind(frame);
   return !frame.IsBusy() && (kind == kPictureWindow || kind == kColourTableWindow);
+}
+
+bool CanPaste(const TPlenoviaWnd& frame) {
+  return !frame.IsBusy() && ClipboardHasPicture();
 }
 
 bool CanZoomIn(const TPlenoviaWnd& frame) {

@@ -11,6 +11,7 @@ bool CanSave(const TPlenoviaWnd& frame);
 bool CanWorkOnPicture(const TPlenoviaWnd& frame);
 // A picture or a colour table is active.
 bool CanCopy(const TPlenoviaWnd& frame);
+bool CanPaste(const TPlenoviaWnd& frame);
 bool CanZoomIn(const TPlenoviaWnd& frame);
 bool CanZoomOut(const TPlenoviaWnd& frame);
 bool CanMakeSirds(const TPlenoviaWnd& frame);

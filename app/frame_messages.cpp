@@ -29,6 +29,10 @@ void UpdateFrame(TPlenoviaWnd& frame, PrivateMessage&) {
   frame.RepaintAll();
 }
 
+void ColorTableClosed(TPlenoviaWnd& frame, PrivateMessage&) {
+  frame.SetColourTable(nullptr);
+}
+
 void SaveChild(TPlenoviaWnd& frame, PrivateMessage& message) {
   auto* window = qobject_cast<QMdiSubWindow*>(message.window());
   if (window == nullptr) return;
@@ -109,9 +113,10 @@ struct MessageRow {
 };
 
 constexpr MessageRow kMessages[] = {
-    {WM_NEEDPATTERNS, &NeedPatterns}, {WM_UPDATEFRAME, &UpdateFrame}, {WM_SAVECHILD, &SaveChild},
-    {WM_UPDATESTATUS, &UpdateStatus}, {WM_PROGRESS, &Progress},       {WM_ADDPATTERN, &AddPattern},
-    {WM_BUTTONHINT, &ButtonHint},
+    {WM_NEEDPATTERNS, &NeedPatterns}, {WM_UPDATEFRAME, &UpdateFrame},
+    {WM_SAVECHILD, &SaveChild},       {WM_COLORTABLECLOSED, &ColorTableClosed},
+    {WM_UPDATESTATUS, &UpdateStatus}, {WM_PROGRESS, &Progress},
+    {WM_ADDPATTERN, &AddPattern},     {WM_BUTTONHINT, &ButtonHint},
 };
 
 }  // namespace

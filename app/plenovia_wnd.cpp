@@ -1,6 +1,8 @@
 #include "app/plenovia_wnd.h"
 
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusTipEvent>
@@ -21,7 +23,9 @@
 #include "engine/ui/sirds_wnd.h"
 #include "figures/sirdmath.h"
 #include "images/pattern_files.h"
+#include "images/ui/color_wnd.h"
 #include "images/ui/popup_hint.h"
+#include "images/ui/printer_int.h"
 #include "images/ui/welcome.h"
 #include "platform/ui/private_message.h"
 #include "platform/ui/resource_pictures.h"
@@ -47,6 +51,8 @@ TPlenoviaWnd::TPlenoviaWnd(const ProfileFile& settings, TWelcome* welcome)
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setCentralWidget(area_);
   connect(area_, &QMdiArea::subWindowActivated, commands_, &CommandRouter::RefreshSoon);
+  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, commands_,
+          &CommandRouter::RefreshSoon);
   commands_->BuildMenus(*menuBar());
   if (LoadStartsMaximised(settings)) {
     setWindowState(Qt::WindowMaximized);
@@ -101,6 +107,7 @@ void TPlenoviaWnd::SetupWindow(const ProfileFile& settings) {
   commands_->Refresh();
   show();
   LoadSettings(settings);
+  printer_ = std::make_unique<TPrinterInt>(QStringLiteral("PLENOVIA.EXE"));
   if (welcome_) welcome_->CloseAfterDelay();
   UpdatePatternButton();
   PostPrivateMessage(this, WM_UPDATESTATUS);
@@ -171,6 +178,14 @@ void TPlenoviaWnd::SaveSettings(ProfileFile& settings) const {
 HelpWindow& TPlenoviaWnd::Help() {
   if (!help_) help_ = new HelpWindow(nullptr);
   return *help_;
+}
+
+TColorWnd* TPlenoviaWnd::ColourTable() const {
+  return colourTable_;
+}
+
+void TPlenoviaWnd::SetColourTable(TColorWnd* window) {
+  colourTable_ = window;
 }
 
 TMouseWnd* TPlenoviaWnd::GetActiveChild() const {

@@ -18,12 +18,14 @@ class ButtonBar;
 class HelpWindow;
 class PopupHint;
 class TCStatusBar;
+class TColorWnd;
 class TMouseWnd;
+class TPrinterInt;
 class TSirdsWnd;
 class TWelcome;
 
 // Owns what the whole program uses: the one record of stereogram parameters, the pattern library,
-// the bars. Document windows and bars reach it through private messages.
+// the printer, the bars. Document windows and bars reach it through private messages.
 class TPlenoviaWnd : public QMainWindow {
   Q_OBJECT
 
@@ -45,6 +47,7 @@ class TPlenoviaWnd : public QMainWindow {
   CommandRouter& Commands() { return *commands_; }
   TCStatusBar& Status() { return *status_; }
   PopupHint& Hint() { return *hint_; }
+  TPrinterInt& Printer() { return *printer_; }
   HelpWindow& Help();
   TSirdsSettings& Settings() { return settings_; }
   // Null until they are loaded.
@@ -52,6 +55,10 @@ class TPlenoviaWnd : public QMainWindow {
   // GraphicFormat of the file that was opened or saved last.
   int LastFormat() const { return lastFormat_; }
   void SetLastFormat(int format) { lastFormat_ = format; }
+
+  // The one colour table window, or null.
+  TColorWnd* ColourTable() const;
+  void SetColourTable(TColorWnd* window);
 
   // The active document window, or null.
   TMouseWnd* GetActiveChild() const;
@@ -93,6 +100,8 @@ class TPlenoviaWnd : public QMainWindow {
   PopupHint* hint_ = nullptr;
   QPointer<TWelcome> welcome_;
   QPointer<HelpWindow> help_;
+  QPointer<TColorWnd> colourTable_;
+  std::unique_ptr<TPrinterInt> printer_;
   std::unique_ptr<TSirdPatt> patterns_;
   TSirdsSettings settings_;
   int lastFormat_ = 1;

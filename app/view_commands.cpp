@@ -5,6 +5,8 @@
 
 #include "app/plenovia_wnd.h"
 #include "engine/ui/sirds_wnd.h"
+#include "images/ui/color_wnd.h"
+#include "platform/ui/message_box.h"
 
 namespace plenovia {
 
@@ -18,6 +20,27 @@ void CmZoomOut(TPlenoviaWnd& frame) {
 
 void CmGrayImage(TPlenoviaWnd& frame) {
   if (TSirdsWnd* picture = frame.ActivePicture()) picture->MakeGray();
+}
+
+void CmColorTable(TPlenoviaWnd& frame) {
+  const TSirdsWnd* picture = frame.ActivePicture();
+  if (picture == nullptr) {
+    ShowMessage(&frame, TPlenoviaWnd::tr("Please open or select a Bitmap Graphic window."),
+                TPlenoviaWnd::tr("Color Table"), MessageIcon::kExclamation);
+    return;
+  }
+  if (!picture->Picture()) return;
+  const Palette shown = picture->Picture()->palette();
+  TColorWnd* table = frame.ColourTable();
+  if (table == nullptr) {
+    table = new TColorWnd(frame.Area(), TPlenoviaWnd::tr("Color Table"), &frame);
+    frame.SetColourTable(table);
+    frame.Adopt(*table);
+  } else {
+    table->showNormal();
+    frame.Area()->setActiveSubWindow(table);
+  }
+  table->SetSource(shown);
 }
 
 void CmCascade(TPlenoviaWnd& frame) {

@@ -8,6 +8,8 @@ class TPlenoviaWnd;
 void CmZoomIn(TPlenoviaWnd& frame);
 void CmZoomOut(TPlenoviaWnd& frame);
 void CmGrayImage(TPlenoviaWnd& frame);
+// Shows the palette of the active picture in the one colour table window.
+void CmColorTable(TPlenoviaWnd& frame);
 
 void CmCascade(TPlenoviaWnd& frame);
 void CmTile(TPlenoviaWnd& frame);

@@ -1,5 +1,6 @@
 // The frame: start, placement, menus, what is available, leaving.
 
+#include <QAbstractScrollArea>
 #include <QMenuBar>
 #include <QScreen>
 #include <QtTest/QTest>
@@ -108,15 +109,17 @@ TEST_F(FrameTest, AvailabilityFollowsTheActiveWindow) {
     }
     return found;
   };
-  const std::set<int> looked{kCmNew,        kCmOpen,      kCmSave,      kCmSaveAs,     kCmZoomIn,
-                             kCmZoomOut,    kCmMakeSirds, kCmGrayImage, kCmExit,       kCmTile,
-                             kCmFullScreen, 1251,         1255,         kCmStopProcess};
+  const std::set<int> looked{kCmNew,        kCmOpen,      kCmSave,      kCmSaveAs,      kCmZoomIn,
+                             kCmZoomOut,    kCmMakeSirds, kCmGrayImage, kCmExit,        kCmTile,
+                             kCmFullScreen, 1251,         1255,         kCmStopProcess, kCmPrint,
+                             kCmCopy,       kCmColorTable};
   EXPECT_EQ(available(looked), (std::set<int>{kCmNew, kCmOpen, kCmExit, kCmGrayImage}));
   Run(kCmGrayImage);
 
   TSirdsWnd* picture = AddPicture(NoisePicture(50, 40, 16));
-  std::set<int> ofPicture{kCmNew,     kCmOpen,      kCmExit, kCmGrayImage, kCmZoomIn,
-                          kCmZoomOut, kCmMakeSirds, kCmTile, kCmFullScreen};
+  std::set<int> ofPicture{kCmNew,        kCmOpen,    kCmExit,      kCmGrayImage,
+                          kCmZoomIn,     kCmZoomOut, kCmMakeSirds, kCmTile,
+                          kCmFullScreen, kCmPrint,   kCmCopy,      kCmColorTable};
   EXPECT_EQ(available(looked), ofPicture);
   picture->SetSaved(false);
   EXPECT_TRUE(Available(kCmSave));
@@ -162,9 +165,51 @@ TEST_F(FrameTest, LeavingAsksForEachUnsavedWindowAndCancelKeepsEverything) {
   EXPECT_TRUE(std::filesystem::exists(SettingsFile()));
 }
 
+TEST_F(FrameTest, OneColourTableFollowsTheCommandAndCanBeCopied) {
+  Start();
+  AddPicture(NoisePicture(50, 40, 64));
+  TSirdsWnd* second = AddPicture(NoisePicture(50, 40, 16));
+  Run(kCmColorTable);
+  Settle();
+  EXPECT_EQ(Frame().GetActiveChild()->GetWindowKind(), kColourTableWindow);
+  EXPECT_TRUE(Available(kCmCopy));
+  Frame().Area()->setActiveSubWindow(second);
+  Run(kCmColorTable);
+  Settle();
+  EXPECT_EQ(Frame().Area()->subWindowList().size(), 3);
+  Run(kCmCopy);
+  EXPECT_TRUE(Available(kCmPaste));
+  Run(kCmPaste);
+  Settle();
+  EXPECT_EQ(Frame().ActivePicture()->ClientSize(), QSize(384, 24));
+  EXPECT_FALSE(Frame().ActivePicture()->IsSaved());
+}
+
+TEST_F(FrameTest, CopyTakesTheSelectionAtAnyZoom) {
+  Start();
+  const auto picture = NoisePicture(60, 50, 16);
+  TSirdsWnd* window = AddPicture(picture);
+  Run(kCmZoomIn);
+  window->SetClientSize({120, 100});
+  auto* view = window->findChild<QAbstractScrollArea*>(QStringLiteral("client"))->viewport();
+  const auto scaled = [&](int x, int y) { return QPointF(x, y) / view->devicePixelRatioF(); };
+  QTest::mousePress(view, Qt::LeftButton, {}, scaled(80, 60).toPoint());
+  QTest::mouseRelease(view, Qt::LeftButton, {}, scaled(20, 40).toPoint());
+  Run(kCmCopy);
+  Run(kCmPaste);
+  Settle();
+  const auto& pasted = *Frame().ActivePicture()->Picture();
+  ASSERT_EQ(pasted.width(), 30);
+  ASSERT_EQ(pasted.height(), 10);
+  EXPECT_EQ(pasted.Row(3)[5], picture->Row(23)[15]);
+}
+
 TEST_F(FrameTest, BoxesThatOnlyTell) {
   Start();
   DialogAnswers answers;
+  answers.AddMessage(QStringLiteral("Please open or select a Bitmap Graphic window."),
+                     QStringLiteral("Color Table"));
+  Run(kCmColorTable);
   answers.Add([](QDialog& dialog) {
     EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Graphics Library"));
     dialog.reject();

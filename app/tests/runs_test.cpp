@@ -119,9 +119,10 @@ TEST_F(Runs, WhileOneRunsOnlyStoppingAndWhatIsAlwaysThereAreAvailable) {
     EXPECT_TRUE(Available(kCmOpen));
   });
   const std::vector<int> expected{
-      kCmVideoInformation, kCmFullScreen,  kCmWizard, kCmGrayImage,    kCmSettings,   kCmPatterns,
-      kCmVersion,          kCmCascade,     kCmTile,   kCmArrangeIcons, kCmCloseAll,   kCmHelpIndex,
-      kCmHelpSirds,        kCmGraphicsLib, kCmAbout,  kCmRelocateBar,  kCmStopProcess};
+      kCmPrinterSetup, kCmVideoInformation, kCmFullScreen, kCmWizard,    kCmGrayImage,
+      kCmSettings,     kCmPatterns,         kCmVersion,    kCmCascade,   kCmTile,
+      kCmArrangeIcons, kCmCloseAll,         kCmHelpIndex,  kCmHelpSirds, kCmGraphicsLib,
+      kCmAbout,        kCmRelocateBar,      kCmStopProcess};
   EXPECT_EQ(available, expected);
   EXPECT_EQ(Pictures().size(), 1U) << "a stopped run makes no window";
 }

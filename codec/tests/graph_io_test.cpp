@@ -58,13 +58,21 @@ TEST(GraphIO, WhatIsNoPictureIsRefused) {
   EXPECT_EQ(io.Read_File(folder / "missing").error().code, ErrorCode::kIo);
 }
 
-TEST(GraphIO, BitmapRowsAreWholeWordsOfFourBytes) {
+TEST(GraphIO, BitmapsHaveTheFewestBitsForTheirColoursAndRowsOfWholeWords) {
   Random random(3);
-  const BitmapInfo info = TGraphIO::GetBitmapInfo(RandomPicture(random, 37, 21, 4));
-  EXPECT_EQ(info.width, 37);
-  EXPECT_EQ(info.height, 21);
-  EXPECT_EQ(info.bytesPerRow, 40);
-  EXPECT_EQ(info.planes * info.bitsPerPixel, 8);
+  struct Case {
+    int colours;
+    int bits;
+    int bytesPerRow;
+  };
+  for (const Case& expected : {Case{2, 1, 8}, Case{3, 2, 12}, Case{16, 4, 20}, Case{17, 8, 40}}) {
+    const BitmapInfo info =
+        TGraphIO::GetBitmapInfo(RandomPicture(random, 37, 21, expected.colours));
+    EXPECT_EQ(info.width, 37);
+    EXPECT_EQ(info.height, 21);
+    EXPECT_EQ(info.bitsPerPixel, expected.bits) << expected.colours;
+    EXPECT_EQ(info.bytesPerRow, expected.bytesPerRow) << expected.colours;
+  }
 }
 
 TEST(GraphicFormat, TheFirstRuleThatHoldsDecides) {

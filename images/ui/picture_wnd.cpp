@@ -86,7 +86,7 @@ std::int64_t TPictureWnd::ImageBytes() const {
 QRect TPictureWnd::Selection() const {
   if (!picture_) return {};
   const QRect whole({}, size_);
-  return Tracking().IsEmpty() ? whole : Tracking().Normalised() & whole;
+  return Tracking().IsEmpty() ? whole : Tracking().Normalised();
 }
 
 QSize TPictureWnd::ZoomedSize() const {

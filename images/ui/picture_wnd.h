@@ -50,8 +50,8 @@ class TPictureWnd : public TMouseWnd {
   // What the picture would take without compression: width 0 without a picture.
   BitmapInfo Description() const;
   std::int64_t ImageBytes() const;
-  // The part of the picture under the selection; all of it without a selection. Empty when there is
-  // neither.
+  // The selection in pixels of the picture, which it may reach out of; the whole picture without a
+  // selection. Empty when there is no picture.
   QRect Selection() const;
 
  protected:
