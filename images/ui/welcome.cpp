@@ -11,11 +11,14 @@ namespace {
 
 constexpr int kMillisecondsAUnit = 2000;
 constexpr QSize kPictureSize(400, 260);
+// Window managers are left out: some lose the frame when the picture before it goes at once.
+constexpr Qt::WindowFlags kPopup =
+    Qt::SplashScreen | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint;
 
 }  // namespace
 
 TWelcome::TWelcome(const QString& title, const QString& picture, int units, const QRect& area)
-    : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint),
+    : QWidget(nullptr, kPopup),
       picture_(DrawnPicture(picture, kPictureSize, devicePixelRatioF())),
       delay_(units * kMillisecondsAUnit) {
   setObjectName(QStringLiteral("welcome"));
