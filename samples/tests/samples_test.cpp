@@ -61,5 +61,17 @@ TEST(Samples, DepthMapsUseLevelsThatEveryScanMethodShows) {
   }
 }
 
+TEST(Samples, TheCastleHasAShapeOfEachTool) {
+  const Result<DepthMapContents> map = ReadDepthMap(Sample("castle.rds"));
+  ASSERT_TRUE(map) << map.error().message;
+  EXPECT_FALSE(map->damaged);
+  std::set<DepthObjKind> kinds;
+  for (auto* object = map->list.Head(); object != nullptr; object = TDepthList::Below(*object)) {
+    kinds.insert(object->GetKind());
+  }
+  EXPECT_EQ(kinds, (std::set<DepthObjKind>{LineObj, CurveObj, SquareBoxObj, RoundBoxObj, PolygonObj,
+                                           CircleObj}));
+}
+
 }  // namespace
 }  // namespace plenovia
