@@ -126,12 +126,20 @@ void CmWizard(TPlenoviaWnd& frame) {
   frame.SetBusyCursor(false);
   PostCommand(frame, kCmMakeSirds);
 }
-void CmSettings(TPlenoviaWnd&) {}
+
+void CmSettings(TPlenoviaWnd& frame) {
+  TSettDialog(&frame, frame.Settings()).exec();
+}
+
 void CmPatterns(TPlenoviaWnd& frame) {
+  TPattDialog(&frame, *frame.Patterns(), frame.ActivePicture() != nullptr).exec();
   frame.UpdatePatternButton();
 }
-bool AddPatternFromPicture(TPlenoviaWnd&) {
-  return false;
+
+bool AddPatternFromPicture(TPlenoviaWnd& frame) {
+  const TSirdsWnd* window = frame.ActivePicture();
+  if (window == nullptr || !window->Picture()) return false;
+  return AddPattern(*frame.Patterns(), *window->Picture(), UserPatternFolder()).has_value();
 }
 
 }  // namespace plenovia
