@@ -1,5 +1,6 @@
 #include "app/tests/program.h"
 
+#include <QTimer>
 #include <fstream>
 #include <utility>
 
@@ -39,6 +40,16 @@ std::filesystem::path ProgramTest::SettingsFile() const {
 void ProgramTest::WriteSettings(const std::string& text) const {
   std::filesystem::create_directories(SettingsFile().parent_path());
   std::ofstream(SettingsFile()) << text;
+}
+
+void ProgramTest::RunAnd(int command, const std::function<void()>& during) {
+  QTimer timer;
+  timer.setSingleShot(true);
+  QObject::connect(&timer, &QTimer::timeout, &timer, during);
+  timer.start(0);
+  Run(command);
+  EXPECT_FALSE(timer.isActive()) << "the run handled no events";
+  Settle();
 }
 
 void ProgramTest::Settle() {

@@ -7,6 +7,7 @@
 #include <QEventLoop>
 #include <QString>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -36,6 +37,8 @@ class ProgramTest : public testing::Test {
   TPlenoviaWnd& Frame() { return app_->Frame(); }
   void Run(int command) { Frame().Commands().Run(command); }
   bool Available(int command) { return Frame().Commands().IsAvailable(command); }
+  // Gives the command of a run, and does `during` when the run handles events for the first time.
+  void RunAnd(int command, const std::function<void()>& during);
   // Handles all events that wait, those that they cause too.
   static void Settle();
 

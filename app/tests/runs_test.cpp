@@ -46,17 +46,6 @@ class Runs : public ProgramTest {
  protected:
   Runs() { Start(); }
 
-  // Runs the command, and `during` when the run handles events for the first time.
-  void RunAnd(int command, std::function<void()> during) {
-    QTimer timer;
-    timer.setSingleShot(true);
-    QObject::connect(&timer, &QTimer::timeout, &timer, during);
-    timer.start(0);
-    Run(command);
-    EXPECT_FALSE(timer.isActive()) << "the run handled no events";
-    Settle();
-  }
-
   std::vector<TSirdsWnd*> Pictures() {
     std::vector<TSirdsWnd*> pictures;
     for (QMdiSubWindow* window : Frame().Area()->subWindowList()) {

@@ -1,17 +1,15 @@
-// A depth map's editor in a document area, with a mouse and eyes.
+// A depth map's editor in a document area, with a hand and eyes.
 #pragma once
 
 #include <gtest/gtest.h>
 
-#include <QAbstractScrollArea>
 #include <QCoreApplication>
-#include <QLineEdit>
-#include <QMouseEvent>
 #include <QScreen>
 #include <string>
 #include <vector>
 
 #include "depthmap/ui/map_window.h"
+#include "depthmap/ui/tests/map_hand.h"
 #include "platform/ui/private_message.h"
 #include "platform/ui/text.h"
 #include "testing/temp_folder.h"
@@ -37,19 +35,7 @@ class Frame : public QWidget {
   }
 };
 
-// "kind(x1,y1,x2,y2)=level" of an object; its vertices instead of its corners where it has some.
-inline std::string Text(const TDepthObj& object) {
-  const auto [x1, y1, x2, y2] = object.GetRect();
-  std::vector<std::int32_t> numbers{x1, y1, x2, y2};
-  if (object.GetKind() == PolygonObj) numbers.clear();
-  for (const auto& [x, y] : object.GetPoints()) numbers.insert(numbers.end(), {x, y});
-  std::string text = std::to_string(object.GetKind()) + "(";
-  for (const std::int32_t number : numbers) text += std::to_string(number) + ",";
-  text.back() = ')';
-  return text + "=" + std::to_string(object.GetLevel());
-}
-
-class MapWindow : public testing::Test {
+class MapWindow : public testing::Test, protected MapHand {
  protected:
   MapWindow() {
     area.resize(700, 600);
@@ -62,54 +48,6 @@ class MapWindow : public testing::Test {
     opened->show();
     QCoreApplication::processEvents();
     return opened;
-  }
-
-  QWidget* View() const {
-    return window->findChild<QAbstractScrollArea*>(QStringLiteral("client"))->viewport();
-  }
-
-  // `at` is a point of the map.
-  void Mouse(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons buttons,
-             Qt::KeyboardModifiers keys = {}) {
-    const QPointF place = at / View()->devicePixelRatioF();
-    QMouseEvent event(type, place, View()->mapToGlobal(place), button, buttons, keys);
-    QCoreApplication::sendEvent(View(), &event);
-  }
-  void Press(QPoint at, Qt::KeyboardModifiers keys = {}) {
-    Mouse(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton, keys);
-  }
-  void Release(QPoint at) { Mouse(QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton); }
-  void Pull(QPoint to, Qt::KeyboardModifiers keys = {}) {
-    Mouse(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton, keys);
-  }
-  void Hover(QPoint to) { Mouse(QEvent::MouseMove, to, Qt::NoButton, Qt::NoButton); }
-  void Click(QPoint at) {
-    Press(at);
-    Release(at);
-  }
-  void DoubleClick(QPoint at) {
-    Click(at);
-    Mouse(QEvent::MouseButtonDblClick, at, Qt::LeftButton, Qt::LeftButton);
-    Release(at);
-  }
-  void Drag(QPoint from, QPoint to) {
-    Press(from);
-    Pull((from + to) / 2);
-    Pull(to);
-    Release(to);
-  }
-  void Draw(int tool, int level, QPoint from, QPoint to) {
-    SetLevel(level);
-    window->RunCommand(tool);
-    Drag(from, to);
-  }
-  void SetLevel(int level) {
-    DialogAnswers answers;
-    answers.Add([=](QDialog& dialog) {
-      dialog.findChild<QLineEdit*>(QStringLiteral("level"))->setText(QString::number(level));
-      dialog.accept();
-    });
-    window->RunCommand(kSetLevel);
   }
 
   std::string Top() const { return Text(*window->Objects().Head()); }
@@ -142,7 +80,6 @@ class MapWindow : public testing::Test {
 
   QMdiArea area;
   Frame frame;
-  TMapWindow* window;
   TempFolder folder;
 };
 
