@@ -1,5 +1,7 @@
 #include <QApplication>
+#include <QFileInfo>
 
+#include "app/file_commands.h"
 #include "app/plenovia_app.h"
 
 int main(int argc, char** argv) {
@@ -9,5 +11,8 @@ int main(int argc, char** argv) {
   QApplication::setDesktopFileName(QStringLiteral("plenovia"));
   plenovia::TPlenoviaApp plenovia;
   plenovia.InitMainWindow();
+  for (const QString& file : QCoreApplication::arguments().mid(1)) {
+    plenovia::OpenByName(plenovia.Frame(), QFileInfo(file).absoluteFilePath());
+  }
   return QApplication::exec();
 }

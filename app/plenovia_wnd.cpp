@@ -49,6 +49,7 @@ TPlenoviaWnd::TPlenoviaWnd(const ProfileFile& settings, TWelcome* welcome)
   area_->setBackground(QColor(192, 192, 192));
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
   setCentralWidget(area_);
   connect(area_, &QMdiArea::subWindowActivated, commands_, &CommandRouter::RefreshSoon);
   connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, commands_,
@@ -272,9 +273,17 @@ bool TPlenoviaWnd::AllMayClose() {
   for (QMdiSubWindow* window : area_->subWindowList()) windows << window;
   for (const auto& window : windows) {
     auto* document = qobject_cast<TMouseWnd*>(window);
-    if (document != nullptr && !document->CanClose()) return false;
+    if (document == nullptr) continue;
+    area_->setActiveSubWindow(document);
+    if (!document->CanClose()) return false;
   }
   return true;
+}
+
+void TPlenoviaWnd::CloseDocuments() {
+  for (QMdiSubWindow* window : area_->subWindowList()) {
+    if (auto* document = qobject_cast<TMouseWnd*>(window)) document->CloseUnasked();
+  }
 }
 
 void TPlenoviaWnd::closeEvent(QCloseEvent* event) {

@@ -67,6 +67,11 @@ class TPlenoviaWnd : public QMainWindow {
   // Shows a new document window, makes it the active one and follows its state.
   void Adopt(TMouseWnd& window);
 
+  // Asks every document window, each as the active one, until one refuses to close.
+  bool AllMayClose();
+  // Closes them without asking.
+  void CloseDocuments();
+
   bool IsBusy() const { return busy_; }
   // Leaves (true) or enters the busy state, in which most commands are gray.
   void SetProcessState(bool enabled);
@@ -89,7 +94,6 @@ class TPlenoviaWnd : public QMainWindow {
   void BuildWindowList();
   void LoadSettings(const ProfileFile& settings);
   void SaveSettings(ProfileFile& settings) const;
-  bool AllMayClose();
   void CascadeNext(QMdiSubWindow& window);
 
   QMdiArea* area_;

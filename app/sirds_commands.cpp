@@ -111,6 +111,7 @@ void CmFigure(TPlenoviaWnd& frame, int command) {
 
 void CmWizard(TPlenoviaWnd& frame) {
   const auto source = RunWizard(&frame, frame.Settings(), *frame.Patterns(), SettingsPath());
+  frame.UpdatePatternButton();
   if (!source) return;
   if (source->type == kFigureSource) {
     PostCommand(frame, kCmFirstFigure + source->figure);

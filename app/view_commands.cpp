@@ -66,7 +66,7 @@ void CmArrangeIcons(TPlenoviaWnd& frame) {
 }
 
 void CmCloseAll(TPlenoviaWnd& frame) {
-  frame.Area()->closeAllSubWindows();
+  if (frame.AllMayClose()) frame.CloseDocuments();
 }
 
 }  // namespace plenovia

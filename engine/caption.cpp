@@ -9,15 +9,15 @@ namespace {
 constexpr Rgb kYellow{255, 255, 0};
 constexpr Rgb kNavy{0, 0, 128};
 
-void DrawDots(IndexedImage& picture, const TextDots& text, int left, int top, Rgb colour) {
+void DrawDots(IndexedImage& picture, const TextDots& text, std::size_t left, int top, Rgb colour) {
   const std::uint8_t index = picture.palette().Nearest(colour);
+  const auto width = static_cast<std::size_t>(text.width);
   for (int y = 0; y < text.height; ++y) {
     if (top + y < 0 || top + y >= picture.height()) continue;
     const auto row = picture.Row(top + y);
-    for (int x = 0; x < text.width && left + x < picture.width(); ++x) {
-      const auto dot = static_cast<std::size_t>(y) * static_cast<std::size_t>(text.width) +
-                       static_cast<std::size_t>(x);
-      if (text.dots[dot] != 0) row[static_cast<std::size_t>(left + x)] = index;
+    const auto dots = text.dots.subspan(static_cast<std::size_t>(y) * width, width);
+    for (std::size_t x = 0; x < width && left + x < row.size(); ++x) {
+      if (dots[x] != 0) row[left + x] = index;
     }
   }
 }

@@ -165,6 +165,37 @@ TEST_F(FrameTest, LeavingAsksForEachUnsavedWindowAndCancelKeepsEverything) {
   EXPECT_TRUE(std::filesystem::exists(SettingsFile()));
 }
 
+TEST_F(FrameTest, CloseAllStopsAtTheFirstCancel) {
+  Start();
+  for (int i = 0; i < 3; ++i) CmFileNew(Frame());
+  const QString question = QStringLiteral("Save\n untitled\n before closing?");
+  DialogAnswers answers;
+  answers.AddMessage(question, QStringLiteral("Confirm"), QMessageBox::No);
+  answers.AddMessage(question, QStringLiteral("Confirm"), QMessageBox::Cancel);
+  Run(kCmCloseAll);
+  EXPECT_EQ(Frame().Area()->subWindowList().size(), 3);
+  for (int i = 0; i < 3; ++i) {
+    answers.AddMessage(question, QStringLiteral("Confirm"), QMessageBox::No);
+  }
+  Run(kCmCloseAll);
+  Settle();
+  EXPECT_TRUE(Frame().Area()->subWindowList().isEmpty());
+}
+
+TEST_F(FrameTest, FullScreenClosesByAKeyThatWasPressedThere) {
+  Start();
+  AddPicture(NoisePicture(50, 40, 16));
+  Run(kCmFullScreen);
+  QPointer<QWidget> view = Frame().findChild<QWidget*>(QStringLiteral("fullScreen"));
+  ASSERT_FALSE(view.isNull());
+  QTest::keyRelease(view, Qt::Key_F);
+  Settle();
+  ASSERT_FALSE(view.isNull());
+  QTest::keyClick(view, Qt::Key_Space);
+  Settle();
+  EXPECT_TRUE(view.isNull());
+}
+
 TEST_F(FrameTest, OneColourTableFollowsTheCommandAndCanBeCopied) {
   Start();
   AddPicture(NoisePicture(50, 40, 64));

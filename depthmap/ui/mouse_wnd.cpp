@@ -179,8 +179,13 @@ void TMouseWnd::changeEvent(QEvent* event) {
   QMetaObject::invokeMethod(this, &TMouseWnd::TakeWantedSize, Qt::QueuedConnection);
 }
 
+void TMouseWnd::CloseUnasked() {
+  asksToClose_ = false;
+  close();
+}
+
 void TMouseWnd::closeEvent(QCloseEvent* event) {
-  if (CanClose()) {
+  if (!asksToClose_ || CanClose()) {
     QMdiSubWindow::closeEvent(event);
   } else {
     event->ignore();

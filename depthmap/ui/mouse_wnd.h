@@ -54,6 +54,8 @@ class TMouseWnd : public QMdiSubWindow {
 
   // Asked when the window shall close; false keeps it open.
   virtual bool CanClose() { return true; }
+  // Closes without asking.
+  void CloseUnasked();
 
   // Changes of the window's size keep its top left corner. The inside of a window that is hidden,
   // minimised or maximised takes its size when the window is shown as it normally is.
@@ -130,6 +132,7 @@ class TMouseWnd : public QMdiSubWindow {
   ClientView* view_;
   int kind_ = 0;
   int cursorId_ = 0;
+  bool asksToClose_ = true;
   std::optional<QSize> wantedClient_;
   QMetaObject::Connection activation_;
   bool active_ = false;

@@ -34,7 +34,13 @@ void TScreenWnd::paintEvent(QPaintEvent* event) {
   PaintPicture(painter, *picture_, 1.0, corner, exposed);
 }
 
+void TScreenWnd::keyPressEvent(QKeyEvent*) {
+  keyPressed_ = true;
+}
+
 void TScreenWnd::keyReleaseEvent(QKeyEvent* event) {
+  // The key that gave the command by the menu may be released here.
+  if (!keyPressed_) return;
   if (!event->isAutoRepeat())
     QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }

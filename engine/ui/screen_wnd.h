@@ -9,8 +9,8 @@
 namespace plenovia {
 
 // Covers the screen of `owner` with black and shows the picture at its own size in the middle, or
-// from the top left corner where it is larger. Releasing a key or the left mouse button closes it;
-// then it deletes itself.
+// from the top left corner where it is larger. Releasing a key that was pressed here, or the left
+// mouse button, closes it; then it deletes itself.
 class TScreenWnd : public QWidget {
   Q_OBJECT
 
@@ -20,11 +20,13 @@ class TScreenWnd : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   std::shared_ptr<const IndexedImage> picture_;
+  bool keyPressed_ = false;
 };
 
 }  // namespace plenovia

@@ -72,10 +72,7 @@ Result<TSirdResult> TSirdsWnd::MakeSirdFromBitmap() {
 Result<void> TSirdsWnd::MakeSirdFromDepthMap(std::shared_ptr<const LevelGrid> map) {
   const QPointer<TSirdsWnd> self(this);
   const auto pattern = CurrentPattern();
-  if (!pattern) {
-    CloseUnasked();
-    return NoPattern();
-  }
+  if (!pattern) return Finish(tl::unexpected(NoPattern().error()));
   const BusyCursor busy(this, [this](int id) { SetCursorId(id); });
   const TSirdsSettings settings = *settings_;
   FrameMonitor monitor(Frame());
@@ -88,10 +85,7 @@ Result<void> TSirdsWnd::MakeSirdFromDepthMap(std::shared_ptr<const LevelGrid> ma
 Result<void> TSirdsWnd::MakeSirdFromFigure(std::int32_t code) {
   const QPointer<TSirdsWnd> self(this);
   const auto pattern = CurrentPattern();
-  if (!pattern) {
-    CloseUnasked();
-    return NoPattern();
-  }
+  if (!pattern) return Finish(tl::unexpected(NoPattern().error()));
   const BusyCursor busy(this, [this](int id) { SetCursorId(id); });
   const TSirdsSettings settings = *settings_;
   const auto background = settings.useBmp != 0 ? Picture() : nullptr;
@@ -109,7 +103,8 @@ Result<void> TSirdsWnd::MakeSirdFromFigure(std::int32_t code) {
 
 Result<void> TSirdsWnd::Finish(Result<IndexedImage> made) {
   if (!made) {
-    CloseUnasked();
+    // A picture that was here before is given up only when the user stopped the run.
+    if (made.error().code == ErrorCode::kCancelled || !Picture()) DropAndClose();
     return tl::unexpected(made.error());
   }
   SetSaved(false);
@@ -117,7 +112,7 @@ Result<void> TSirdsWnd::Finish(Result<IndexedImage> made) {
   return {};
 }
 
-void TSirdsWnd::CloseUnasked() {
+void TSirdsWnd::DropAndClose() {
   SetImage(nullptr);
   SetSaved(true);
   QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);

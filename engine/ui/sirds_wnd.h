@@ -42,8 +42,8 @@ class TSirdsWnd : public TPictureWnd {
   // Makes the stereogram of a depth map in this window. When it cannot, the window closes.
   [[nodiscard]] Result<void> MakeSirdFromDepthMap(std::shared_ptr<const LevelGrid> map);
   // Makes the stereogram of a mathematical figure in this window, over its picture when it has one
-  // and the settings ask for that. `code` is below 0: -(number of the figure + 1). When it cannot,
-  // the window closes.
+  // and the settings ask for that. `code` is below 0: -(number of the figure + 1). When the run is
+  // stopped, or cannot be made and there was no picture, the window closes.
   [[nodiscard]] Result<void> MakeSirdFromFigure(std::int32_t code);
 
   bool HandlesCommand(int command) const override;
@@ -53,7 +53,7 @@ class TSirdsWnd : public TPictureWnd {
  private:
   std::shared_ptr<const IndexedImage> CurrentPattern();
   Result<void> Finish(Result<IndexedImage> made);
-  void CloseUnasked();
+  void DropAndClose();
 
   const TSirdsSettings* settings_;
   const TSirdPatt* patterns_ = nullptr;
