@@ -24,6 +24,7 @@
 #include "figures/sirdmath.h"
 #include "images/pattern_files.h"
 #include "images/ui/color_wnd.h"
+#include "images/ui/figure_titles.h"
 #include "images/ui/popup_hint.h"
 #include "images/ui/printer_int.h"
 #include "images/ui/welcome.h"
@@ -118,11 +119,8 @@ void TPlenoviaWnd::SetupWindow(const ProfileFile& settings) {
 
 void TPlenoviaWnd::BuildMathMenu() {
   _InitFigureTitles();
-  for (int i = 0; i < _GetFigureCount(); ++i) {
-    std::array<char, 40> title{};
-    _GetFigureTitle(i, title.data(), static_cast<int>(title.size()));
-    commands_->AddFigure(*menuBar(), kCmFirstFigure + i, QString::fromLatin1(title.data()));
-  }
+  int command = kCmFirstFigure;
+  for (const QString& title : FigureTitles()) commands_->AddFigure(*menuBar(), command++, title);
 }
 
 void TPlenoviaWnd::BuildWindowList() {

@@ -1,7 +1,6 @@
 #include "app/sirds_commands.h"
 
 #include <QPointer>
-#include <array>
 #include <utility>
 
 #include "app/command_table.h"
@@ -16,6 +15,7 @@
 #include "figures/sirdmath.h"
 #include "images/add_pattern.h"
 #include "images/pattern_files.h"
+#include "images/ui/figure_titles.h"
 #include "images/ui/patt_dialog.h"
 #include "platform/ui/message_box.h"
 #include "platform/ui/private_message.h"
@@ -69,12 +69,6 @@ void MakeFromMap(TPlenoviaWnd& frame, TMapWindow& map) {
 void PostCommand(TPlenoviaWnd& frame, int command) {
   QMetaObject::invokeMethod(
       &frame, [&frame, command] { frame.Commands().Run(command); }, Qt::QueuedConnection);
-}
-
-QString FigureTitle(int number) {
-  std::array<char, 40> title{};
-  _GetFigureTitle(number, title.data(), static_cast<int>(title.size()));
-  return QString::fromLatin1(title.data());
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "app/sirds_commands.h"
 #include "app/tests/program.h"
 #include "engine/generation.h"
+#include "figures/sirdmath.h"
 #include "platform/ui/private_message.h"
 #include "testing/picture_compare.h"
 
@@ -84,6 +85,26 @@ TEST_F(Runs, MakesWhatTheEngineMakesAndTellsTheFrame) {
   EXPECT_TRUE(SamePixels(*made->Picture(), *direct));
   EXPECT_TRUE(Available(kCmMakeSirds));
   made->SetSaved(true);
+}
+
+TEST_F(Runs, EachFigureOfTheMenuIsThatOfTheEngineWithACaption) {
+  Quiet quiet;
+  const auto pattern = Frame().Patterns()->GetCurrentBitmap();
+  for (int command = kCmFirstFigure; command <= kCmLastFigure; ++command) {
+    Run(command);
+    Settle();
+    const auto made = Frame().ActivePicture()->Picture();
+    FigureRun run;
+    run.level = &_GetFigureLevel;
+    run.code = kCmFirstFigure - 1 - command;
+    auto expected = *MakeSirdFromFigure(run, {*pattern, Frame().Settings(), quiet});
+    EXPECT_NE(*made, expected) << "no caption under figure " << command;
+    for (int y = expected.height() - 22; y < expected.height(); ++y) {
+      std::copy_n(made->Row(y).begin(), made->width(), expected.Row(y).begin());
+    }
+    EXPECT_TRUE(SamePixels(*made, expected)) << command;
+    Frame().GetActiveChild()->CloseUnasked();
+  }
 }
 
 TEST_F(Runs, AStereogramIsNotMadeIntoAnother) {

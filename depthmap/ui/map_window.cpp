@@ -134,22 +134,6 @@ void TMapWindow::CmSetLevel() {
   if (dialog.exec() == QDialog::Accepted) list->SetCurrentLevel(level);
 }
 
-bool TMapWindow::CanClose() {
-  if (!IsSaved()) {
-    const QPointer<TMapWindow> self(this);
-    const Answer answer = AskYesNoCancel(
-        window(), tr("Save\r %s\r before closing?").replace(QStringLiteral("%s"), name_),
-        tr("Confirm"));
-    if (!self || answer == Answer::kCancel) return false;
-    if (answer == Answer::kYes) {
-      SendPrivateMessage(Frame(), PrivateMessage(WM_SAVECHILD, this));
-      if (!self || !IsSaved()) return false;
-    }
-  }
-  PostPrivateMessage(Frame(), WM_UPDATESTATUS);
-  return true;
-}
-
 void TMapWindow::EvMDIActivate(bool active) {
   if (!active) return;
   SendPrivateMessage(Frame(), PrivateMessage(WM_UPDATESTATUS));

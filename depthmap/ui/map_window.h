@@ -62,7 +62,7 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
 
   bool HandlesCommand(int command) const override;
   void RunCommand(int command) override;
-  bool CanClose() override;
+  bool NeedsSaving() const override { return !IsSaved(); }
 
  Q_SIGNALS:
   // This window is the active one and has this tool.

@@ -5,7 +5,9 @@
 #include <algorithm>
 
 #include "depthmap/ui/client_view.h"
+#include "platform/ui/message_box.h"
 #include "platform/ui/picture_painting.h"
+#include "platform/ui/private_message.h"
 #include "platform/ui/resource_pictures.h"
 
 namespace plenovia {
@@ -177,6 +179,22 @@ void TMouseWnd::changeEvent(QEvent* event) {
   // The window has its new size only after this event.
   if (event->type() != QEvent::WindowStateChange) return;
   QMetaObject::invokeMethod(this, &TMouseWnd::TakeWantedSize, Qt::QueuedConnection);
+}
+
+bool TMouseWnd::CanClose() {
+  if (NeedsSaving()) {
+    const QPointer<TMouseWnd> self(this);
+    const Answer answer = AskYesNoCancel(
+        window(), tr("Save\r %s\r before closing?").replace(QStringLiteral("%s"), windowTitle()),
+        tr("Confirm"));
+    if (!self || answer == Answer::kCancel) return false;
+    if (answer == Answer::kYes) {
+      SendPrivateMessage(frame_, PrivateMessage(WM_SAVECHILD, this));
+      if (!self || NeedsSaving()) return false;
+    }
+  }
+  PostPrivateMessage(frame_, WM_UPDATESTATUS);
+  return true;
 }
 
 void TMouseWnd::CloseUnasked() {

@@ -52,8 +52,12 @@ class TMouseWnd : public QMdiSubWindow {
   virtual bool CommandEnabled(int command) const { return HandlesCommand(command); }
   virtual void RunCommand(int /*command*/) {}
 
-  // Asked when the window shall close; false keeps it open.
-  virtual bool CanClose() { return true; }
+  // Whether there is work that closing would lose.
+  virtual bool NeedsSaving() const { return false; }
+  // Asked when the window shall close; false keeps it open. A window with work to save asks the
+  // user, and has the frame save it on Yes; what could not be saved stays open. `this` may be gone
+  // when it returns false.
+  virtual bool CanClose();
   // Closes without asking.
   void CloseUnasked();
 

@@ -34,15 +34,10 @@ TSettDialog::TSettDialog(QWidget* parent, TSirdsSettings& settings)
   auto* boxes = new QHBoxLayout;
   boxes->addWidget(MakeParameters());
   boxes->addWidget(MakeOptions());
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(MakeOkButton(this));
-  buttons->addWidget(MakeCancelButton(this));
-  buttons->addStretch();
   auto* all = new QVBoxLayout(this);
   all->addLayout(boxes);
   all->addWidget(restore_, 0, Qt::AlignHCenter);
-  all->addLayout(buttons);
+  all->addLayout(MakeOkCancelRow(this));
   all->setSizeConstraint(QLayout::SetFixedSize);
 
   connect(restore_, &QCheckBox::clicked, this, &TSettDialog::RestoreClicked);

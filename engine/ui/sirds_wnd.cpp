@@ -126,20 +126,4 @@ void TSirdsWnd::RunCommand(int command) {
   if (command == kFullScreen) (new TScreenWnd(window(), Picture()))->showFullScreen();
 }
 
-bool TSirdsWnd::CanClose() {
-  if (!IsSaved() && Picture()) {
-    const QPointer<TSirdsWnd> self(this);
-    const Answer answer = AskYesNoCancel(
-        window(), tr("Save\r %s\r before closing?").replace(QStringLiteral("%s"), GetTitle()),
-        tr("Confirm"));
-    if (!self || answer == Answer::kCancel) return false;
-    if (answer == Answer::kYes) {
-      SendPrivateMessage(Frame(), PrivateMessage(WM_SAVECHILD, this));
-      if (!self || !IsSaved()) return false;
-    }
-  }
-  PostPrivateMessage(Frame(), WM_UPDATESTATUS);
-  return true;
-}
-
 }  // namespace plenovia

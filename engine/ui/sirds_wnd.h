@@ -48,7 +48,7 @@ class TSirdsWnd : public TPictureWnd {
 
   bool HandlesCommand(int command) const override;
   void RunCommand(int command) override;
-  bool CanClose() override;
+  bool NeedsSaving() const override { return !IsSaved() && Picture(); }
 
  private:
   std::shared_ptr<const IndexedImage> CurrentPattern();

@@ -16,14 +16,9 @@ MathDlg::MathDlg(QWidget* parent, const QStringList& titles)
   list_->setCurrentRow(selectedIndex_);
   connect(list_, &QListWidget::itemDoubleClicked, this, &MathDlg::accept);
 
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(MakeOkButton(this));
-  buttons->addWidget(MakeCancelButton(this));
-  buttons->addStretch();
   auto* all = new QVBoxLayout(this);
   all->addWidget(list_);
-  all->addLayout(buttons);
+  all->addLayout(MakeOkCancelRow(this));
 }
 
 void MathDlg::accept() {

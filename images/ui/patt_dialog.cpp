@@ -44,14 +44,9 @@ TPattDialog::TPattDialog(QWidget* frame, TSirdPatt& library, bool addingAllowed)
   changes->addWidget(add);
   changes->addWidget(MakePictureButton(kDeleteButton, tr("Delete")));
   browser_->Buttons()->addLayout(changes);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(MakeOkButton(this));
-  buttons->addWidget(MakeCancelButton(this));
-  buttons->addStretch();
   auto* all = new QVBoxLayout(this);
   all->addWidget(browser_);
-  all->addLayout(buttons);
+  all->addLayout(MakeOkCancelRow(this));
   all->setSizeConstraint(QLayout::SetFixedSize);
 }
 

@@ -58,6 +58,15 @@ QPushButton* MakeCancelButton(QDialog* dialog) {
   return button;
 }
 
+QHBoxLayout* MakeOkCancelRow(QDialog* dialog) {
+  auto* row = new QHBoxLayout;
+  row->addStretch();
+  row->addWidget(MakeOkButton(dialog));
+  row->addWidget(MakeCancelButton(dialog));
+  row->addStretch();
+  return row;
+}
+
 QSize DialogUnits(const QWidget& widget, int width, int height) {
   const QFontMetrics metrics = widget.fontMetrics();
   return {width * metrics.averageCharWidth() / 4, height * metrics.height() / 8};

@@ -3,6 +3,7 @@
 
 #include <QCheckBox>
 #include <QDialog>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -27,6 +28,8 @@ QLabel* MakeLabel(const QString& text, QWidget* control);
 // OK, which the Enter key presses, accepts the dialog; Cancel, and the Escape key, reject it.
 QPushButton* MakeOkButton(QDialog* dialog);
 QPushButton* MakeCancelButton(QDialog* dialog);
+// Both, side by side in the middle of a row.
+QHBoxLayout* MakeOkCancelRow(QDialog* dialog);
 
 // So many units of the measure that dialogs are laid out in, a quarter of a character's width and
 // an eighth of its height, in the widget's font.
