@@ -39,7 +39,7 @@ std::uint8_t Rounded(float level) {
 
 }  // namespace
 
-ColourReducer::ColourReducer() : cells_(kCells) {}
+ColourReducer::ColourReducer(int colours) : colours_(colours), cells_(kCells) {}
 
 std::size_t ColourReducer::FindSlot(std::uint32_t key) const {
   std::size_t slot = (key * 2654435761u) >> 22;
@@ -51,7 +51,7 @@ bool ColourReducer::Remember(Rgb colour) {
   const std::uint32_t key = KeyOf(colour);
   const std::size_t slot = FindSlot(key);
   if (keys_[slot] == key) return true;
-  if (known_ == 256) return false;
+  if (known_ == colours_) return false;
   ++known_;
   keys_[slot] = key;
   return true;
@@ -113,7 +113,7 @@ std::vector<WeightedColour> ColourReducer::Histogram() const {
 
 void ColourReducer::FitManyColours() {
   const std::vector<WeightedColour> colours = Histogram();
-  const ColourClusters clusters = FitClusters(colours, 256);
+  const ColourClusters clusters = FitClusters(colours, static_cast<std::size_t>(colours_));
 
   std::vector<Rgb> entries;
   for (const Colour& centre : clusters.centres) {

@@ -15,13 +15,14 @@ namespace plenovia {
 // Sees the picture's rows twice, so that nobody has to hold them all: Count each row, BuildPalette,
 // then Map each row. There is no dithering.
 // - A picture of grays alone gets 256 grays, index = gray.
-// - A picture of at most 256 colours keeps them exactly, from dark to bright (then by red, green,
-//   blue).
-// - Any other gets 256 fitted colours, from dark to bright: a histogram of 6 bits a channel is
+// - A picture of at most `colours` (256) colours keeps them exactly, from dark to bright (then by
+//   red, green, blue).
+// - Any other gets `colours` fitted colours, from dark to bright: a histogram of 6 bits a channel
+// is
 //   clustered (FitClusters), and each of its cells goes to the nearest colour.
 class ColourReducer {
  public:
-  ColourReducer();
+  explicit ColourReducer(int colours = 256);  // 1..256
 
   // At most 2^29 pixels in all.
   void Count(std::span<const Rgb> row);
@@ -46,6 +47,7 @@ class ColourReducer {
   void KeepFewColours();
   void FitManyColours();
 
+  int colours_;
   bool gray_ = true;
   bool few_ = true;
   Kind kind_ = Kind::kGray;

@@ -7,7 +7,9 @@
 
 namespace plenovia {
 
-// At most 256 colours fitted to the tile.
+// In at most 254 colours fitted to the tile. After them the palette has the yellow and the navy of
+// markers and captions, which no pixel of the tile uses: a stereogram has its pattern's colours
+// only, and its markers must stand out in it.
 [[nodiscard]] Result<IndexedImage> IndexTile(const Tile& tile);
 
 }  // namespace plenovia

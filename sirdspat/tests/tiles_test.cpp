@@ -29,6 +29,10 @@ TEST_P(ShippedTiles, AreGoodToFuse) {
   const TileQuality quality = MeasureTile(*tile);
   EXPECT_TRUE(IsGoodToFuse(quality)) << "repeat " << quality.repeat << ", local "
                                      << quality.localRepeat << ", detail " << quality.leastDetail;
+  for (const Rgb mark : {Rgb{255, 255, 0}, Rgb{0, 0, 128}}) {
+    const Palette& palette = tile->palette();
+    EXPECT_EQ(palette[palette.Nearest(mark)], mark) << "markers and caption do not stand out";
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ShippedTiles, testing::Range<std::size_t>(0, 20));
