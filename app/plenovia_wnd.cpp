@@ -206,6 +206,7 @@ void TPlenoviaWnd::Adopt(TMouseWnd& window) {
 }
 
 void TPlenoviaWnd::CascadeNext(QMdiSubWindow& window) {
+  if (area_->subWindowList().size() <= 1) cascaded_ = 0;
   const int step = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window) + 4;
   window.move(QPoint(step, step) * cascaded_);
   cascaded_ = (cascaded_ + 1) % kCascadedWindows;

@@ -53,7 +53,7 @@ std::optional<QString> SourceWizDlg::Ask(WizardSourceType type) {
     case kBitmapSource:
       question.filters =
           tr("Bitmap Files (*.BMP)|*.bmp|PCX Files (*.PCX)|*.pcx|"
-             "GIF Files (*.GIF)|*.gif|");
+             "GIF Files (*.GIF)|*.gif|All Pictures|*.bmp *.pcx *.gif *.jpg *.jpeg *.png|");
       question.defaultExtension = QStringLiteral("bmp");
       return AskOpenFile(this, question);
     case kDepthMapSource:
