@@ -182,6 +182,18 @@ TEST_F(FrameTest, CloseAllStopsAtTheFirstCancel) {
   EXPECT_TRUE(Frame().Area()->subWindowList().isEmpty());
 }
 
+TEST_F(FrameTest, AColourTableThatStaysWhenCloseAllIsCancelledIsStillTheOne) {
+  Start();
+  AddPicture(NoisePicture(50, 40, 64));
+  Run(kCmColorTable);
+  AddPicture(NoisePicture(30, 30, 4))->SetSaved(false);
+  DialogAnswers answers;
+  answers.Add([](QDialog& dialog) { dialog.reject(); });
+  Run(kCmCloseAll);
+  Run(kCmColorTable);
+  EXPECT_EQ(Frame().Area()->subWindowList().size(), 3);
+}
+
 TEST_F(FrameTest, FullScreenClosesByAKeyThatWasPressedThere) {
   Start();
   AddPicture(NoisePicture(50, 40, 16));

@@ -96,9 +96,9 @@ void TColorWnd::ClientResized() {
   UpdateScrolling();
 }
 
-bool TColorWnd::CanClose() {
-  SendPrivateMessage(Frame(), PrivateMessage(WM_COLORTABLECLOSED));
-  return true;
+void TColorWnd::closeEvent(QCloseEvent* event) {
+  TMouseWnd::closeEvent(event);
+  if (event->isAccepted()) SendPrivateMessage(Frame(), PrivateMessage(WM_COLORTABLECLOSED));
 }
 
 }  // namespace plenovia

@@ -26,11 +26,10 @@ class TColorWnd : public TMouseWnd {
   // The whole grid as a picture, in the same size on every display.
   QImage MakeBitmap() const;
 
-  bool CanClose() override;
-
  protected:
   void Paint(QPainter& painter, const QRect& exposed) override;
   void ClientResized() override;
+  void closeEvent(QCloseEvent* event) override;
 
  private:
   void UpdateScrolling();
