@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <string>
 
+#include "engine/ui/depth_range_hint.h"
 #include "platform/ui/dialog_controls.h"
 
 namespace plenovia {
@@ -65,6 +66,7 @@ QGroupBox* TSettDialog::MakeParameters() {
   add(tr("Angular displacement"), da_);
 
   auto* depth = new QGroupBox(tr("Depth Resolution"));
+  depth->setToolTip(DepthRangeHint());
   auto* range = new QHBoxLayout(depth);
   range->addWidget(MakeLabel(tr("Zmin"), zmin_));
   range->addWidget(zmin_);

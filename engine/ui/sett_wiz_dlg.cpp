@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 
+#include "engine/ui/depth_range_hint.h"
 #include "platform/leading_number.h"
 #include "platform/ui/dialog_controls.h"
 
@@ -43,12 +44,16 @@ SettWizDlg::SettWizDlg(QWidget* parent, const TSirdsSettings& settings)
   add(tr("Zmax"), zmax_);
   Content()->addLayout(grid);
   Content()->addStretch();
-  auto* note =
-      new QLabel(tr("NOTE: Zmin and Zmax specify the depth resolution for the Stereogram."));
+  AddNote(tr("NOTE: Zmin and Zmax specify the depth resolution for the Stereogram."));
+  AddNote(DepthRangeHint());
+  AddButtons(BackButton::kShown);
+}
+
+void SettWizDlg::AddNote(const QString& text) {
+  auto* note = new QLabel(text);
   note->setTextFormat(Qt::PlainText);
   note->setWordWrap(true);
   Content()->addWidget(note);
-  AddButtons(BackButton::kShown);
 }
 
 void SettWizDlg::OnNext() {

@@ -21,6 +21,8 @@ class SettWizDlg : public WizardDlg {
   void OnNext() override;
 
  private:
+  void AddNote(const QString& text);
+
   TSirdsSettings settings_;
   QLineEdit* width_;
   QLineEdit* height_;

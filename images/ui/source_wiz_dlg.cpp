@@ -6,6 +6,12 @@
 
 namespace plenovia {
 
+namespace {
+
+constexpr int kAllPictures = 4;  // position in the list of file types
+
+}  // namespace
+
 SourceWizDlg::SourceWizDlg(QWidget* parent, const WizardSource& source,
                            const std::filesystem::path& settingsFile)
     : WizardDlg(parent, tr("Select a source for generating the Stereogram.  Your choices are:")),
@@ -54,6 +60,7 @@ std::optional<QString> SourceWizDlg::Ask(WizardSourceType type) {
       question.filters =
           tr("Bitmap Files (*.BMP)|*.bmp|PCX Files (*.PCX)|*.pcx|"
              "GIF Files (*.GIF)|*.gif|All Pictures|*.bmp *.pcx *.gif *.jpg *.jpeg *.png|");
+      question.preselected = kAllPictures;
       question.defaultExtension = QStringLiteral("bmp");
       return AskOpenFile(this, question);
     case kDepthMapSource:
