@@ -46,12 +46,23 @@ endfunction()
 # installation, so one path to the figure library fits both.
 function(plenovia_program name)
   file(RELATIVE_PATH library_from_program
-    ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+    /${CMAKE_INSTALL_BINDIR} /${plenovia_private_libraries})
   set_target_properties(${name} PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}
     BUILD_WITH_INSTALL_RPATH ON
     INSTALL_RPATH "$ORIGIN/${library_from_program}")
   install(TARGETS ${name})
+endfunction()
+
+# plenovia_install_compressed(FILE FOLDER): as manuals and changelogs are installed.
+function(plenovia_install_compressed file folder)
+  get_filename_component(name ${file} NAME)
+  set(compressed ${CMAKE_CURRENT_BINARY_DIR}/compressed/${name}.gz)
+  file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/compressed)
+  add_custom_command(OUTPUT ${compressed}
+    COMMAND gzip -9nc ${file} > ${compressed} DEPENDS ${file} VERBATIM)
+  add_custom_target(compressed_${name} ALL DEPENDS ${compressed})
+  install(FILES ${compressed} DESTINATION ${folder})
 endfunction()
 
 # plenovia_test(NAME SOURCES ... LINK ...)

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # What ./test.sh leaves out: the format, a build with Clang, the tests under the sanitizers, the desktop
-# program in a real window, and every fuzz target for some seconds. Installs what it needs.
+# program in a real window, the Debian package installed and removed again, and every fuzz target for some
+# seconds. Installs what it needs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -24,7 +25,10 @@ cmake --build --preset asan
 ctest --preset asan
 
 echo "== the desktop program on a virtual display"
-scripts/desktop_smoke.sh build/release/bin
+scripts/desktop_smoke.sh build/release/bin samples
+
+echo "== the Debian package"
+scripts/package_check.sh build/release
 
 echo "== fuzz targets, $seconds seconds each"
 cmake --preset fuzz

@@ -43,11 +43,16 @@ core_packages=(
 # To build the desktop program, and to show it.
 build_packages=(
   "${core_packages[@]}"
-  qt6-base-dev libqt6svg6-dev libgl-dev fonts-dejavu-core
+  qt6-base-dev qt6-svg-dev libgl-dev fonts-dejavu-core
 )
+# To make the Debian package.
+package_packages=(dpkg-dev file)
 # To build and run its tests.
 test_packages=(libgtest-dev)
 # To check it as thoroughly as the continuous integration does.
-check_packages=(clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev)
+check_packages=(
+  clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev
+  appstream desktop-file-utils libglib2.0-bin lintian man-db shared-mime-info xdg-utils
+)
 # To use the desktop program without a display.
 display_packages=(xvfb openbox xdotool)
