@@ -26,6 +26,7 @@ void CatchStopSignals() {
     action.sa_flags = SA_RESTART;
     sigaction(number, &action, nullptr);
   }
+  std::signal(SIGXFSZ, SIG_IGN);
 }
 
 bool StopSignalCame() {

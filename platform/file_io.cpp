@@ -92,16 +92,16 @@ fs::path FollowLinks(fs::path path) {
   return path;
 }
 
-// Creates and opens a new file in the folder of `target`, with the permissions that new files get,
-// and sets `name` to its path. Negative on failure.
-int CreateBeside(const fs::path& target, std::string& name) {
+// Creates and opens a new file in the folder of `target`, with these permissions as far as the
+// process grants them to new files, and sets `name` to its path. Negative on failure.
+int CreateBeside(const fs::path& target, mode_t permissions, std::string& name) {
   constexpr int kTries = 1000;
   const std::string start =
       (target.parent_path() / (".plenovia-" + std::to_string(getpid()) + "-")).string();
   int descriptor = -1;
   for (int i = 0; i < kTries; ++i) {
     name = start + std::to_string(i);
-    descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions);
     if (descriptor >= 0 || errno != EEXIST) break;
   }
   return descriptor;
@@ -142,19 +142,20 @@ Result<void> WriteFile(const fs::path& path,
   const fs::path target = FollowLinks(path);
   struct stat old {};
   const bool replaces = stat(target.c_str(), &old) == 0;
+  if (!replaces && errno != ENOENT) return SystemFailure("cannot be written");
   if (replaces && S_ISDIR(old.st_mode)) return Failure(ErrorCode::kIo, "is a directory");
   if (replaces && !S_ISREG(old.st_mode)) return Failure(ErrorCode::kIo, "is not a regular file");
   if (replaces && access(target.c_str(), W_OK) != 0) return SystemFailure("cannot be written");
 
+  // Without the set-user-ID bit: the new file is the saver's own, whoever the old one belonged to.
+  const mode_t permissions = replaces ? old.st_mode & 0777 : 0666;
   std::string name;
-  Descriptor file(CreateBeside(target, name));
+  Descriptor file(CreateBeside(target, permissions, name));
   if (file.get() < 0) return SystemFailure("cannot be written");
   Leftover leftover(name);
 
   if (!WriteAll(file.get(), pieces)) return SystemFailure("cannot be written");
-  if (replaces && fchmod(file.get(), old.st_mode & 07777) != 0) {
-    return SystemFailure("cannot be written");
-  }
+  if (replaces && fchmod(file.get(), permissions) != 0) return SystemFailure("cannot be written");
   // Without this a power failure soon after the renaming could lose the old file and the new one.
   if (replaces && fdatasync(file.get()) != 0) return SystemFailure("cannot be written");
   if (!file.Close()) return SystemFailure("cannot be written");

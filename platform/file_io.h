@@ -18,7 +18,8 @@ namespace plenovia {
 
 // Puts the pieces, one after the other, into the file: under a temporary name beside it, flushed
 // and renamed. On failure the file that was there stays as it was and nothing is left behind.
-// A symbolic link is followed; an existing file keeps its permissions.
+// A symbolic link is followed; an existing file keeps its permissions. Under a limit on file sizes
+// SIGXFSZ must be ignored for the limit to be a failure.
 [[nodiscard]] Result<void> WriteFile(const std::filesystem::path& path,
                                      std::span<const std::span<const std::uint8_t>> pieces);
 [[nodiscard]] Result<void> WriteFile(const std::filesystem::path& path,

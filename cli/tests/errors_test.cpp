@@ -1,4 +1,5 @@
 // Failures: one line that names what is wrong, the right exit status, and nothing left behind.
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -122,6 +123,21 @@ const Wrong kFiles[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Files, Errors, testing::ValuesIn(kFiles),
                          [](const auto& test) { return std::string(test.param.name); });
+
+TEST_F(SirdsTest, ALimitOnFileSizesIsAFailure) {
+  Write("old.bmp", "old");
+  const int before = folder_.Count();
+  rlimit usual{};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
+  const rlimit small{1024, usual.rlim_max};
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+  const Finished run = Sirds({"make", scene_, "-o", Path("old.bmp"), "--pattern", tile_});
+  setrlimit(RLIMIT_FSIZE, &usual);
+  EXPECT_EQ(run.status, 1) << run.err;
+  EXPECT_NE(run.err.find("old.bmp: cannot be written"), std::string::npos) << run.err;
+  EXPECT_EQ(folder_.Count(), before);
+  EXPECT_EQ(Contents("old.bmp"), "old");
+}
 
 class Stopping : public SirdsTest, public testing::WithParamInterface<int> {};
 

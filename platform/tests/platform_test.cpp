@@ -59,8 +59,10 @@ TEST(WriteFile, ReplacesTheWholeFileOrNothing) {
   TempFolder folder;
   const fs::path file = folder / "a file";
   ASSERT_TRUE(WriteFile(file, Bytes("first")));
-  chmod(file.c_str(), 0640);
+  chmod(file.c_str(), 04640);
   fs::create_symlink("a file", folder / "link");
+  fs::create_symlink("turn", folder / "round");
+  fs::create_symlink("round", folder / "turn");
 
   const std::vector<std::span<const std::uint8_t>> pieces = {Bytes("one "), Bytes(""),
                                                              Bytes("two")};
@@ -70,12 +72,14 @@ TEST(WriteFile, ReplacesTheWholeFileOrNothing) {
   EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
 
   fs::create_directory(folder / "folder");
-  for (const fs::path& wrong : {folder / "folder", folder / "missing" / "file", file / "below"}) {
+  for (const fs::path& wrong :
+       {folder / "folder", folder / "missing" / "file", file / "below", folder / "round"}) {
     const auto written = WriteFile(wrong, Bytes("x"));
     ASSERT_FALSE(written) << wrong;
     EXPECT_EQ(written.error().code, ErrorCode::kIo);
   }
-  EXPECT_EQ(folder.Count(), 3);
+  EXPECT_TRUE(fs::is_symlink(folder / "round"));
+  EXPECT_EQ(folder.Count(), 5);
   EXPECT_EQ(Text(file), "one two");
 }
 
