@@ -87,7 +87,7 @@ void PressBarButton(Monkey& monkey) {
 
 void UseDocument(Monkey& monkey) {
   const TMouseWnd* document = monkey.Frame().GetActiveChild();
-  if (document == nullptr) return;
+  if (document == nullptr || monkey.Frame().isMinimized()) return;
   auto* view = document->findChild<QAbstractScrollArea*>(QStringLiteral("client"));
   monkey.Note("mouse in " + document->windowTitle().toStdString());
   UseMouse(*view->viewport(), monkey.Dice());
@@ -156,15 +156,34 @@ void ChangeDocumentWindow(Monkey& monkey) {
   }
 }
 
+// A minimised frame is not active, and is activated when it comes back; that is the window
+// manager's work, which the offscreen platform has none of.
+void Minimise(Monkey& monkey) {
+  monkey.Frame().showMinimized();
+  monkey.OtherProgram().show();
+}
+
+void ComeBack(Monkey& monkey) {
+  monkey.Note("the frame comes back");
+  monkey.OtherProgram().activateWindow();
+  if (monkey.Dice().OneIn(2)) {
+    monkey.Frame().showMaximized();
+  } else {
+    monkey.Frame().showNormal();
+  }
+  monkey.OtherProgram().hide();
+  monkey.Frame().activateWindow();
+}
+
 void ChangeFrame(Monkey& monkey) {
   Chance& dice = monkey.Dice();
-  const int way = dice.Int(0, 4);
+  const int way = dice.Int(0, 3);
   monkey.Note("changes the frame, way " + std::to_string(way));
   switch (way) {
     case 0:
       return monkey.Frame().showMaximized();
     case 1:
-      return monkey.Frame().showMinimized();
+      return Minimise(monkey);
     case 2:
       return monkey.Frame().resize(dice.Int(1, 1000), dice.Int(1, 900));
     default:
@@ -250,6 +269,10 @@ constexpr ActRow kActs[] = {
 }  // namespace
 
 void DoAnything(Monkey& monkey) {
+  if (monkey.Frame().isMinimized()) {
+    if (monkey.Dice().OneIn(3)) ComeBack(monkey);
+    return;
+  }
   int sum = 0;
   for (const ActRow& row : kActs) sum += row.weight;
   int place = monkey.Dice().Int(1, sum);

@@ -20,6 +20,11 @@ constexpr int kRoundsToSettle = 5;
 
 }  // namespace
 
+Monkey::Monkey(MonkeyFiles& files, StepLog& log) : chance_(0), files_(files), log_(log) {
+  otherProgram_.setObjectName(QStringLiteral("otherProgram"));
+  startTimer(0);
+}
+
 void Monkey::Step(int number, std::uint64_t seed) {
   step_ = number;
   actsInside_ = 0;

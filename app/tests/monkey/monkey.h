@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QWidget>
 #include <string>
 #include <vector>
 
@@ -17,7 +18,7 @@ namespace plenovia {
 // it answers dialogs and menus, and acts inside a run that works.
 class Monkey : public QObject {
  public:
-  Monkey(MonkeyFiles& files, StepLog& log) : chance_(0), files_(files), log_(log) { startTimer(0); }
+  Monkey(MonkeyFiles& files, StepLog& log);
 
   void SetFrame(TPlenoviaWnd& frame) { frame_ = &frame; }
   // What is done depends only on `seed` and on what the program shows.
@@ -29,6 +30,8 @@ class Monkey : public QObject {
   TPlenoviaWnd& Frame() { return *frame_; }
   Chance& Dice() { return chance_; }
   MonkeyFiles& Files() { return files_; }
+  // A window that is not the program's.
+  QWidget& OtherProgram() { return otherProgram_; }
   void Note(const std::string& what);
 
  protected:
@@ -42,6 +45,7 @@ class Monkey : public QObject {
   MonkeyFiles& files_;
   StepLog& log_;
   QPointer<TPlenoviaWnd> frame_;
+  QWidget otherProgram_;
   int step_ = 0;
   int depth_ = 0;
   int actsInside_ = 0;  // in this step

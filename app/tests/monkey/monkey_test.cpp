@@ -2,6 +2,7 @@
 //
 // PLENOVIA_MONKEY_SEED and PLENOVIA_MONKEY_STEPS choose another run.
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <cstdio>
 #include <filesystem>
@@ -49,22 +50,29 @@ class MonkeyTest : public ProgramTest {
   }
   ~MonkeyTest() override { std::filesystem::current_path(before_); }
 
-  void StartAnew() {
+  void StartAnew(Chance& chance) {
     app_.reset();
     Settle();
-    ResetPatterns();
+    for (const QWidget* widget : QApplication::allWidgets()) {
+      if (widget->objectName() == QStringLiteral("otherProgram")) continue;
+      ADD_FAILURE() << "outlives the program: " << widget->metaObject()->className();
+    }
+    ResetPatterns(chance);
     Start();
     objects_ = ObjectsOf(Frame());
   }
 
-  // The program adds to the folder beside itself. Many patterns make each start slower.
-  static void ResetPatterns() {
+  // The program adds to the folder beside itself. Many patterns make each start slower. Now and
+  // then some are damaged, or all.
+  static void ResetPatterns(Chance& chance) {
     const std::filesystem::path folder = ProgramFile().parent_path() / "sirdspat";
     std::filesystem::remove_all(folder);
     std::filesystem::create_directories(folder);
+    const bool none = chance.OneIn(6);
     for (int i = 0; i < kShippedPatterns; ++i) {
-      const std::string name = PatternFileName(i);
-      std::filesystem::copy_file(std::filesystem::path(SHIPPED_TILES) / name, folder / name);
+      const std::filesystem::path file = folder / PatternFileName(i);
+      std::filesystem::copy_file(std::filesystem::path(SHIPPED_TILES) / file.filename(), file);
+      if (none || chance.OneIn(20)) std::filesystem::resize_file(file, 20);
     }
   }
 
@@ -111,14 +119,14 @@ TEST_F(MonkeyTest, AnythingMayHappen) {
   Monkey monkey(files, log);
   QElapsedTimer clock;
   clock.start();
-  StartAnew();
+  StartAnew(chance);
   for (int step = 1; step <= steps && !HasFailure(); ++step) {
     watchdog.Pat();
     monkey.SetFrame(Frame());
     monkey.Step(step, seed);
     if (!Frame().isVisible()) {
       log.Add("a new frame");
-      StartAnew();
+      StartAnew(chance);
     }
     ExpectOrder(Frame());
     TidyUp(chance);

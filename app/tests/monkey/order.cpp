@@ -69,6 +69,7 @@ void ExpectToolShown(TPlenoviaWnd& frame) {
 
 void ExpectOrder(TPlenoviaWnd& frame) {
   ExpectAtRest(frame);
+  if (frame.isMinimized()) return;
   ExpectCommandsAsAvailable(frame);
   ExpectWholeDocuments(frame);
   ExpectToolShown(frame);
