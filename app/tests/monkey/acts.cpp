@@ -68,6 +68,7 @@ void OpenMenu(Monkey& monkey) {
     QTest::keyClick(monkey.Frame().windowHandle(), key, Qt::AltModifier);
   } else {
     const QPoint place = bar->actionGeometry(monkey.Dice().Pick(bar->actions())).center();
+    if (!bar->rect().contains(place)) return;
     monkey.Note("clicks on the menu bar");
     QTest::mouseClick(monkey.Frame().windowHandle(), Qt::LeftButton, {},
                       bar->mapTo(&monkey.Frame(), place));
@@ -191,6 +192,16 @@ void ChangeFrame(Monkey& monkey) {
   }
 }
 
+// As from the desktop's settings.
+void ChangeLook(Monkey& monkey) {
+  monkey.Note("changes font and colours");
+  QFont font = QApplication::font();
+  font.setPointSize(monkey.Dice().Int(6, 18));
+  QApplication::setFont(font);
+  const Qt::GlobalColor grounds[] = {Qt::lightGray, Qt::darkGray, Qt::white, Qt::black};
+  QApplication::setPalette(QPalette(monkey.Dice().Pick(grounds)));
+}
+
 void CloseFrame(Monkey& monkey) {
   if (!monkey.Dice().OneIn(5)) return;
   monkey.Note("closes the frame");
@@ -260,10 +271,12 @@ struct ActRow {
 };
 
 constexpr ActRow kActs[] = {
-    {25, &GiveCommand},          {8, &MakeStereogram}, {5, &OpenMenu},      {6, &PressBarButton},
-    {20, &UseDocument},          {5, &DrawInMap},      {10, &UseAnyWidget}, {6, &UseAnyKey},
-    {10, &ChangeDocumentWindow}, {2, &ChangeFrame},    {1, &CloseFrame},    {8, &OpenFile},
-    {5, &ChangeParameters},      {2, &FillClipboard},  {3, &StopRun},
+    {25, &GiveCommand},   {8, &MakeStereogram},   {5, &OpenMenu},
+    {6, &PressBarButton}, {20, &UseDocument},     {5, &DrawInMap},
+    {10, &UseAnyWidget},  {6, &UseAnyKey},        {10, &ChangeDocumentWindow},
+    {2, &ChangeFrame},    {1, &ChangeLook},       {1, &CloseFrame},
+    {8, &OpenFile},       {5, &ChangeParameters}, {2, &FillClipboard},
+    {3, &StopRun},
 };
 
 }  // namespace
