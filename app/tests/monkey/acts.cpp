@@ -67,11 +67,8 @@ void OpenMenu(Monkey& monkey) {
     monkey.Note("Alt and the key " + std::to_string(key));
     QTest::keyClick(monkey.Frame().windowHandle(), key, Qt::AltModifier);
   } else {
-    const QPoint place = bar->actionGeometry(monkey.Dice().Pick(bar->actions())).center();
-    if (!bar->rect().contains(place)) return;
     monkey.Note("clicks on the menu bar");
-    QTest::mouseClick(monkey.Frame().windowHandle(), Qt::LeftButton, {},
-                      bar->mapTo(&monkey.Frame(), place));
+    Click(*bar, bar->actionGeometry(monkey.Dice().Pick(bar->actions())).center(), monkey.Dice());
   }
 }
 

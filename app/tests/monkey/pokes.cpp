@@ -33,11 +33,11 @@ Qt::KeyboardModifiers AnyModifiers(Chance& chance) {
 // The mouse over one window, which may go at any event.
 class Mouse {
  public:
-  Mouse(QWidget& widget, Chance& chance)
+  Mouse(QWidget& widget, QPoint begin, Chance& chance)
       : chance_(chance),
         widget_(&widget),
         window_(widget.window()->windowHandle()),
-        begin_(widget.mapTo(widget.window(), chance.In(widget.rect()))),
+        begin_(widget.mapTo(widget.window(), begin)),
         modifiers_(AnyModifiers(chance)) {}
 
   void Click(Qt::MouseButton button) {
@@ -104,8 +104,12 @@ QWidget* AnyWidgetIn(QWidget& window, Chance& chance) {
   return usable.isEmpty() ? &window : chance.Pick(usable);
 }
 
+void Click(QWidget& widget, QPoint place, Chance& chance) {
+  Mouse(widget, place, chance).Click(Qt::LeftButton);
+}
+
 void UseMouse(QWidget& widget, Chance& chance) {
-  Mouse mouse(widget, chance);
+  Mouse mouse(widget, chance.In(widget.rect()), chance);
   const Qt::MouseButton button = chance.OneIn(5)    ? Qt::RightButton
                                  : chance.OneIn(20) ? Qt::MiddleButton
                                                     : Qt::LeftButton;

@@ -1,7 +1,7 @@
 // What mouse and keyboard can do to a window and the widgets in it.
 #pragma once
 
-#include <QRect>
+#include <QPoint>
 #include <QWidget>
 
 #include "app/tests/monkey/chance.h"
@@ -11,6 +11,7 @@ namespace plenovia {
 // A child that can be seen and used, or the window itself.
 QWidget* AnyWidgetIn(QWidget& window, Chance& chance);
 
+void Click(QWidget& widget, QPoint place, Chance& chance);
 // A click, double click, drag, way or turn of the wheel that begins in the widget. What lies above
 // the widget gets it, as with a real mouse.
 void UseMouse(QWidget& widget, Chance& chance);
