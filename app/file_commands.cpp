@@ -14,6 +14,7 @@
 #include "platform/ui/message_box.h"
 #include "platform/ui/private_message.h"
 #include "platform/ui/text.h"
+#include "platform/vector_state.h"
 
 namespace plenovia {
 
@@ -88,6 +89,7 @@ void SavePicture(TPlenoviaWnd& frame, TSirdsWnd& window, const QString& path) {
   TGraphIO codec;
   codec.SetGraphicFormat(frame.LastFormat());
   frame.Status().SetMessage(WritingText(LastFormat(frame)));
+  ClearUpperVectorHalves();
   const Result<void> written = codec.Write_File(ToPath(path), *picture);
   window.SetSaved(written.has_value());
   if (written) window.SetTitle(path);
@@ -133,6 +135,7 @@ void OpenPicture(TPlenoviaWnd& frame, const QString& path) {
   frame.SetLastFormat(TGraphIO::GetGraphicFormat(ToPath(path)));
   const QString text = ReadingText(LastFormat(frame));
   if (!text.isEmpty()) frame.Status().SetMessage(text);
+  ClearUpperVectorHalves();
   TGraphIO codec;
   auto picture = codec.Read_File(ToPath(path));
   if (!picture) {

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "engine/parts.h"
+#include "platform/parts.h"
 
 namespace plenovia {
 

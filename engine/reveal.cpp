@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <new>
 
-#include "engine/parts.h"
 #include "engine/reveal_strip.h"
 #include "engine/separation_range.h"
 #include "platform/limits.h"
+#include "platform/parts.h"
 
 namespace plenovia {
 

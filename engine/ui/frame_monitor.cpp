@@ -4,6 +4,7 @@
 
 #include "platform/ui/abort_check.h"
 #include "platform/ui/private_message.h"
+#include "platform/vector_state.h"
 
 namespace plenovia {
 
@@ -19,11 +20,13 @@ void FrameMonitor::OnProgress(ProgressPhase phase, const ProgressInfo& progress)
   if (phase == ProgressPhase::kFirstStep && updatesStatus_) {
     SendPrivateMessage(frame_, PrivateMessage(WM_UPDATESTATUS));
   }
+  ClearUpperVectorHalves();
 }
 
 bool FrameMonitor::StopRequested() {
   if (sincePump_.isValid() && sincePump_.nsecsElapsed() < kNanosecondsBetweenPumps) return false;
   const bool stops = PumpAndCheckAbort(frame_) != 0;
+  ClearUpperVectorHalves();
   sincePump_.start();
   if (stops && beeps_) QApplication::beep();
   return stops;

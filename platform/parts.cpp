@@ -1,4 +1,4 @@
-#include "engine/parts.h"
+#include "platform/parts.h"
 
 #include <algorithm>
 #include <atomic>
