@@ -58,13 +58,15 @@ bool ColourReducer::Remember(Rgb colour) {
 }
 
 void ColourReducer::Count(std::span<const Rgb> row) {
-  for (std::size_t i = 0; i < row.size(); ++i) {
-    const Rgb c = row[i];
+  for (const Rgb c : row) {
     Cell& cell = cells_[CellOf(c)];
     ++cell.count;
     cell.red += c.red & 3u;
     cell.green += c.green & 3u;
     cell.blue += c.blue & 3u;
+  }
+  for (std::size_t i = 0; (gray_ || few_) && i < row.size(); ++i) {
+    const Rgb c = row[i];
     if (i > 0 && c == row[i - 1]) continue;
     if (gray_) gray_ = c.red == c.green && c.green == c.blue;
     if (few_) few_ = Remember(c);

@@ -12,6 +12,7 @@
 
 #include "codec/byte_stream.h"
 #include "codec/gif_lzw.h"
+#include "codec/lzw_compression.h"
 #include "platform/limits.h"
 
 namespace plenovia {
@@ -113,18 +114,27 @@ int AppendToFile(GifFileType* file, const GifByteType* bytes, int count) {
   return AppendBytes(buffer, {bytes, static_cast<std::size_t>(count)}) ? count : 0;
 }
 
-bool WriteGif(GifFileType* file, const IndexedImage& picture, const ColorMapObject* map) {
+// The end of the pixels is a block of length 0.
+bool WriteBlocks(GifFileType* file, std::span<const std::uint8_t> bytes) {
+  std::array<GifByteType, 256> block{};
+  while (!bytes.empty()) {
+    const std::size_t length = std::min<std::size_t>(255, bytes.size());
+    block[0] = static_cast<GifByteType>(length);
+    std::copy_n(bytes.begin(), length, block.begin() + 1);
+    if (EGifPutCodeNext(file, block.data()) == GIF_ERROR) return false;
+    bytes = bytes.subspan(length);
+  }
+  return EGifPutCodeNext(file, nullptr) == GIF_OK;
+}
+
+bool WriteGif(GifFileType* file, const IndexedImage& picture, const ColorMapObject* map,
+              std::span<const std::uint8_t> codes) {
   if (EGifPutScreenDesc(file, picture.width(), picture.height(), 8, 0, map) == GIF_ERROR ||
       EGifPutImageDesc(file, 0, 0, picture.width(), picture.height(), false, nullptr) ==
           GIF_ERROR) {
     return false;
   }
-  std::vector<GifPixelType> row;
-  for (int y = 0; y < picture.height(); ++y) {
-    row.assign(picture.Row(y).begin(), picture.Row(y).end());
-    if (EGifPutLine(file, row.data(), picture.width()) == GIF_ERROR) return false;
-  }
-  return true;
+  return WriteBlocks(file, codes);
 }
 
 }  // namespace
@@ -182,17 +192,24 @@ Result<EncodedPicture> EncodeGif(const IndexedImage& picture) {
     return Failure(ErrorCode::kTooLarge, "there is not enough memory to write the GIF file");
   };
   const auto highest = std::max_element(picture.pixels().begin(), picture.pixels().end());
-  const int colours = 1 << GifBitSize(std::max({2, picture.palette().size(), *highest + 1}));
+  const int bits = GifBitSize(std::max({2, picture.palette().size(), *highest + 1}));
+  const int colours = 1 << bits;
   const std::unique_ptr<ColorMapObject, FreePalette> map(GifMakeMapObject(colours, nullptr));
   if (!map) return noMemory();
   for (int i = 0; i < colours; ++i) {
     const Rgb c = picture.palette()[i];
     map->Colors[i] = {c.red, c.green, c.blue};
   }
+  std::vector<std::uint8_t> codes;
+  try {
+    codes = CompressLzw(std::max(2, bits), picture.pixels());
+  } catch (const std::bad_alloc&) {
+    return noMemory();
+  }
   ByteBuffer bytes;
   GifFileType* file = EGifOpen(&bytes, AppendToFile, nullptr);
   if (file == nullptr) return noMemory();
-  const bool written = WriteGif(file, picture, map.get());
+  const bool written = WriteGif(file, picture, map.get(), codes);
   if (EGifCloseFile(file, nullptr) == GIF_ERROR || !written) return noMemory();
   return EncodedPicture(std::move(bytes));
 }

@@ -8,6 +8,7 @@
 #include "codec/colour_reducer.h"
 #include "codec/jpeg_errors.h"
 #include "codec/jpeg_reader.h"
+#include "codec/kept_colours.h"
 
 namespace plenovia {
 
@@ -26,6 +27,12 @@ Result<IndexedImage> ReadGray(JpegReader& file) {
 }
 
 Result<IndexedImage> ReadColours(JpegReader& file) {
+  if (const auto kept = KeptColours::Create(file.width(), file.height())) {
+    const auto read =
+        file.ReadRows([&](int, std::span<const std::uint8_t> row) { kept->Add(row); });
+    if (!read) return tl::unexpected(read.error());
+    return kept->Reduce();
+  }
   std::vector<Rgb> colours(static_cast<std::size_t>(file.width()));
   const auto toColours = [&](std::span<const std::uint8_t> row) {
     for (std::size_t x = 0; x < colours.size(); ++x) {

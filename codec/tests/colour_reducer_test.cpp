@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 #include <vector>
 
+#include "codec/kept_colours.h"
+#include "codec/reduce_rows.h"
 #include "platform/random.h"
 
 namespace plenovia {
@@ -97,6 +100,35 @@ TEST(ColourReducer, FindsTheCentresOfSeparateGroups) {
   ColourReducer reducer;
   // 1.25 inside the groups, and up to 0.25 for centres rounded to whole levels.
   EXPECT_LT(MeanSquaredError(colours, Reduced(colours, reducer)), 1.5);
+}
+
+TEST(KeptColours, GivesThePictureThatTwoReadingsGive) {
+  constexpr int kWidth = 301, kHeight = 333;
+  Random random(4);
+  for (const int levels : {1, 3, 200}) {  // of each channel
+    std::vector<Rgb> colours;
+    for (int i = 0; i < kWidth * kHeight; ++i) {
+      const auto level = [&] { return static_cast<std::uint8_t>(random.Int(0, levels - 1)); };
+      colours.push_back({level(), level(), level()});
+    }
+    const auto rowAt = [&](int y) {
+      return std::span(colours).subspan(kWidth * static_cast<std::size_t>(y), kWidth);
+    };
+    const auto expected = ReduceRows(kWidth, kHeight, [&](int y, std::span<Rgb> row) {
+      std::copy_n(rowAt(y).begin(), kWidth, row.begin());
+      return true;
+    });
+    const auto kept = KeptColours::Create(kWidth, kHeight);
+    ASSERT_TRUE(kept);
+    for (int y = 0; y < kHeight; ++y) {
+      std::vector<std::uint8_t> bytes;
+      for (const Rgb c : rowAt(y)) bytes.insert(bytes.end(), {c.red, c.green, c.blue});
+      kept->Add(bytes);
+    }
+    EXPECT_EQ(kept->Reduce().value(), expected.value());
+  }
+  EXPECT_FALSE(KeptColours::Create(10, 10));
+  EXPECT_FALSE(KeptColours::Create(10000, 10000));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "codec/lzw_compression.h"
 #include "codec/tests/reader_checks.h"
 #include "platform/random.h"
 #include "testing/picture_compare.h"
@@ -92,6 +93,70 @@ TEST(Gif, LongStringsAndManyClearCodesSurvive) {
   EXPECT_TRUE(SamePixels(plain, DecodeGif(EncodeGif(plain).value().Joined()).value()));
   plain.Fill(7);
   EXPECT_TRUE(SamePixels(plain, DecodeGif(EncodeGif(plain).value().Joined()).value()));
+}
+
+// The whole file as giflib compresses it.
+ByteBuffer WrittenByLibrary(const IndexedImage& picture) {
+  ByteBuffer bytes;
+  GifFileType* file = EGifOpen(&bytes, Append, nullptr);
+  ColorMapObject* map = GifMakeMapObject(picture.palette().size(), nullptr);
+  for (int i = 0; i < map->ColorCount; ++i) {
+    const Rgb c = picture.palette()[i];
+    map->Colors[i] = {c.red, c.green, c.blue};
+  }
+  EGifPutScreenDesc(file, picture.width(), picture.height(), 8, 0, map);
+  PutFrame(file, picture, {}, nullptr);
+  EGifCloseFile(file, nullptr);
+  GifFreeMapObject(map);
+  return bytes;
+}
+
+// The pixels as giflib reads them.
+std::vector<std::uint8_t> ReadByLibrary(const ByteBuffer& bytes) {
+  std::span<const std::uint8_t> rest = bytes;
+  const auto read = [](GifFileType* file, GifByteType* to, int count) {
+    auto& from = *static_cast<std::span<const std::uint8_t>*>(file->UserData);
+    const std::size_t taken = std::min(from.size(), static_cast<std::size_t>(count));
+    std::copy_n(from.begin(), taken, to);
+    from = from.subspan(taken);
+    return static_cast<int>(taken);
+  };
+  GifFileType* file = DGifOpen(&rest, read, nullptr);
+  EXPECT_EQ(DGifSlurp(file), GIF_OK);
+  std::vector<std::uint8_t> pixels;
+  if (file->ImageCount == 1) {
+    const auto* first = file->SavedImages[0].RasterBits;
+    pixels.assign(first, first + file->SWidth * file->SHeight);
+  }
+  DGifCloseFile(file, nullptr);
+  return pixels;
+}
+
+TEST(Gif, SmallPicturesAreCompressedAsTheLibraryDoes) {
+  Random random(7);
+  for (const int colours : {2, 4, 8, 16, 64, 256}) {
+    for (const int side : {1, 2, 3, 40, 300}) {  // up to where the table of strings is full
+      IndexedImage picture = RandomPicture(random, side, side + 1, colours);
+      EXPECT_EQ(EncodeGif(picture).value().Joined(), WrittenByLibrary(picture));
+      for (auto& pixel : picture.pixels()) pixel = random.Int(0, 9) == 0 ? pixel : 0;
+      EXPECT_EQ(EncodeGif(picture).value().Joined(), WrittenByLibrary(picture));
+    }
+  }
+}
+
+TEST(Gif, TheLibraryReadsTheSeamsOfLargePictures) {
+  // The width of the codes at a seam depends on the pixels before it.
+  Random random(8);
+  for (const int colours : {2, 4, 256}) {
+    for (const int rare : {1, 40, 100000}) {
+      IndexedImage picture = RandomPicture(random, 1100, 1000, colours);
+      for (auto& pixel : picture.pixels()) pixel = random.Int(1, rare) == 1 ? pixel : 1;
+      ASSERT_GT(picture.pixels().size(), 2 * kLzwPartPixels);
+      const ByteBuffer bytes = EncodeGif(picture).value().Joined();
+      EXPECT_TRUE(std::ranges::equal(ReadByLibrary(bytes), picture.pixels()));
+      EXPECT_EQ(DecodeGif(bytes).value(), picture);
+    }
+  }
 }
 
 TEST(Gif, PixelsBeyondThePaletteAreBlackInTheFile) {

@@ -10,6 +10,8 @@
 
 #include <vector>
 
+#include "codec/jpeg_reader.h"
+#include "codec/reduce_rows.h"
 #include "codec/tests/reader_checks.h"
 #include "platform/random.h"
 #include "testing/picture_compare.h"
@@ -155,6 +157,27 @@ TEST(Jpeg, WrittenPicturesKeepTheirColoursClosely) {
   const auto coloured = DecodeJpeg(EncodeJpeg(picture).value().Joined());
   ASSERT_TRUE(coloured) << coloured.error().message;
   EXPECT_TRUE(SameColours(picture, *coloured, 40));
+}
+
+TEST(Jpeg, LargePicturesAreReducedAsTheirRowsAre) {
+  Random random(1);
+  const ByteBuffer file = EncodeJpeg(RandomPicture(random, 401, 403, 256)).value().Joined();
+  JpegReader reader(file);
+  ASSERT_TRUE(reader.Open());
+  std::vector<Rgb> colours;
+  ASSERT_TRUE(reader.ReadRows([&](int, std::span<const std::uint8_t> row) {
+    for (std::size_t i = 0; i < row.size(); i += 3)
+      colours.push_back({row[i], row[i + 1], row[i + 2]});
+  }));
+  auto next = colours.begin();
+  const auto expected = ReduceRows(401, 403, [&](int y, std::span<Rgb> row) {
+    if (y == 0) next = colours.begin();
+    std::copy_n(next, row.size(), row.begin());
+    next += std::ssize(row);
+    return true;
+  });
+  EXPECT_EQ(DecodeJpeg(file).value(), expected.value());
+  EXPECT_FALSE(DecodeJpeg(std::span(file).first(file.size() / 2)));
 }
 
 TEST(Jpeg, TruncationIsNoticedAtEveryByte) {
