@@ -1,48 +1,19 @@
-// How the time to sample a whole depth map grows with its number of objects.
+// How the time to sample a whole depth map, on one thread, grows with its number of objects.
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
-#include <cstdio>
 #include <ctime>
 #include <limits>
-#include <memory>
+#include <string>
 #include <vector>
 
+#include "bench/crowded_map.h"
 #include "bench/stopwatch.h"
-#include "depthmap/depth_list.h"
-#include "platform/random.h"
+#include "bench/table.h"
 
 namespace plenovia {
 namespace {
 
 constexpr int kSide = 4000;
-constexpr double kCovered = 0.6 * kSide * kSide;  // pixels, of all objects together
-
-// Shapes of all kinds and of one area, anywhere on the map.
-TDepthList MapOf(int objects) {
-  Random random(static_cast<std::uint64_t>(objects));
-  TDepthList map(kSide, kSide);
-  const int side = static_cast<int>(std::sqrt(kCovered / objects));
-  constexpr DepthObjKind kKinds[] = {SquareBoxObj, RoundBoxObj, CircleObj, PolygonObj};
-  for (int i = 0; i < objects; ++i) {
-    const int x = random.Int(0, kSide - side);
-    const int y = random.Int(0, kSide - side);
-    auto object = std::make_unique<TDepthObj>(nullptr, DepthRect{x, y, x + side, y + side},
-                                              kKinds[i % 4], 1 + i % 255);
-    if (object->GetKind() == PolygonObj) {  // a star
-      std::vector<DepthPoint> points;
-      for (int corner = 0; corner < 32; ++corner) {
-        const double angle = corner * 3.14159265358979 / 16;
-        const double reach = side * (corner % 2 == 0 ? 0.7 : 0.4);
-        points.push_back({x + static_cast<std::int32_t>(side * 0.5 + reach * std::cos(angle)),
-                          y + static_cast<std::int32_t>(side * 0.5 + reach * std::sin(angle))});
-      }
-      object->SetPoints(points);
-    }
-    map.AddObject(std::move(object));
-  }
-  return map;
-}
 
 // Processor time, which other programs on the machine disturb less; the shortest of several runs.
 double SampleSeconds(const TDepthList& map) {
@@ -60,14 +31,11 @@ double SampleSeconds(const TDepthList& map) {
 }
 
 int Run() {
-  std::printf("Depth map of %d x %d, sampled whole, one thread\n", kSide, kSide);
-  double first = 0;
-  for (const int objects : {10, 100, 1000, 10000}) {
-    const TDepthList map = MapOf(objects);
-    const double seconds = SampleSeconds(map);
-    if (first == 0) first = seconds;
-    std::printf("%6d objects: %7.1f ms, %6.0f megapixels/s, %5.1f times the first\n", objects,
-                seconds * 1e3, kSide * kSide / seconds * 1e-6, seconds / first);
+  const double few = SampleSeconds(bench::CrowdedMap(kSide, 10));
+  for (const int objects : {100, 1000, 10000}) {
+    bench::PrintTimes("depth map, 4000 x 4000, " + std::to_string(objects) + " objects",
+                      SampleSeconds(bench::CrowdedMap(kSide, objects)),
+                      "10 objects, as much covered", few);
   }
   return 0;
 }

@@ -9,72 +9,45 @@
 #include <QTimer>
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
 #include <fstream>
 #include <memory>
 #include <string>
 #include <utility>
 
 #include "app/command_table.h"
-#include "app/plenovia_app.h"
+#include "app/plenovia_wnd.h"
+#include "bench/desktop_program.h"
+#include "bench/quiet_monitor.h"
 #include "bench/smooth_depth.h"
 #include "bench/stopwatch.h"
+#include "bench/table.h"
 #include "engine/generation.h"
-#include "engine/ui/sirds_wnd.h"
 
 namespace plenovia {
 namespace {
 
-class Quiet final : public RunMonitor {
- public:
-  void OnProgress(ProgressPhase, const ProgressInfo&) override {}
-  bool StopRequested() override { return false; }
-};
-
-class Program {
- public:
-  Program() { app_.InitMainWindow(); }
-
-  TPlenoviaWnd& Frame() { return app_.Frame(); }
-  TSirdsWnd* Show(const std::shared_ptr<const IndexedImage>& picture) {
-    auto* window = new TSirdsWnd(Frame().Area(), QStringLiteral("bench"), &Frame(), nullptr,
-                                 QSize(picture->width(), picture->height()), &Frame().Settings());
-    Frame().Adopt(*window);
-    window->SetImage(picture);
-    window->SetSaved(true);
-    Handle();
-    return window;
-  }
-  static void Handle() {
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  }
-
- private:
-  TPlenoviaApp app_;
-};
-
-void CompareGeneration(Program& program, const std::shared_ptr<const IndexedImage>& picture) {
+void CompareGeneration(bench::DesktopProgram& program,
+                       const std::shared_ptr<const IndexedImage>& picture) {
   TSirdsWnd* window = program.Show(picture);
   const auto pattern = program.Frame().Patterns()->GetCurrentBitmap();
-  Quiet quiet;
-  const double alone = bench::Seconds([&] {
+  bench::QuietMonitor quiet;
+  const auto alone = [&] {
     const auto made =
         MakeSirdFromBitmap(*picture, 1.0, {*pattern, program.Frame().Settings(), quiet});
     bench::Keep(&made);
-  });
-  const double inWindow = bench::Seconds([&] {
+  };
+  const auto inWindow = [&] {
     const auto made = window->MakeSirdFromBitmap();
     bench::Keep(&made);
-  });
-  std::printf("  generation alone, one thread     %6.1f ms\n", alone * 1e3);
-  std::printf("  the same run in the window       %6.1f ms, %.2f times\n", inWindow * 1e3,
-              inWindow / alone);
-  window->close();
-  Program::Handle();
+  };
+  const auto [waited, core] = bench::SecondsInTurn(inWindow, alone);
+  bench::PrintTimes("a run in the window, 4000 x 3000", waited, "generation alone, one thread",
+                    core);
+  program.Close(window);
 }
 
-void MeasureAnswers(Program& program, const std::shared_ptr<const IndexedImage>& picture) {
+void MeasureAnswers(bench::DesktopProgram& program,
+                    const std::shared_ptr<const IndexedImage>& picture) {
   TSirdsWnd* window = program.Show(picture);
   QElapsedTimer sinceTurn;
   QElapsedTimer sinceStop;
@@ -92,11 +65,11 @@ void MeasureAnswers(Program& program, const std::shared_ptr<const IndexedImage>&
   timer.start(0);
   program.Frame().Commands().Run(kCmMakeSirds);
   const qint64 stopped = sinceStop.nsecsElapsed();
-  std::printf("  longest wait for an answer       %6.1f ms\n", static_cast<double>(longest) / 1e6);
-  std::printf("  from Stop to the end of the run  %6.1f ms\n", static_cast<double>(stopped) / 1e6);
+  bench::PrintTimes("longest wait for an answer in it", static_cast<double>(longest) * 1e-9,
+                    "bound", 0.050);
+  bench::PrintTimes("from Stop to its end", static_cast<double>(stopped) * 1e-9, "bound", 0.100);
   timer.stop();
-  window->close();
-  Program::Handle();
+  program.Close(window);
 }
 
 // Megabytes that the process holds.
@@ -109,22 +82,21 @@ double ResidentMegabytes() {
   return static_cast<double>(resident * sysconf(_SC_PAGESIZE)) / 1e6;
 }
 
-void OpenAndClose(Program& program, int times) {
+void OpenAndClose(bench::DesktopProgram& program, int times) {
   for (int i = 0; i < times; ++i) {
     auto picture = bench::SmoothDepth(2000, 1500);
-    program.Show(std::make_shared<const IndexedImage>(std::move(picture)))->close();
-    Program::Handle();
+    program.Close(program.Show(std::make_shared<const IndexedImage>(std::move(picture))));
   }
 }
 
-void MeasureMemory(Program& program) {
+void MeasureMemory(bench::DesktopProgram& program) {
   OpenAndClose(program, 20);
   const double before = ResidentMegabytes();
   OpenAndClose(program, 100);
   const double after = ResidentMegabytes();
-  std::printf(
-      "  memory before and after 100 pictures opened and closed  %.1f and %.1f MB, %+.1f %%\n",
-      before, after, (after / before - 1) * 100);
+  bench::PrintRow("memory after 100 more pictures were open", bench::Number(after, 1, "MB"),
+                  "before them", bench::Number(before, 1, "MB"),
+                  bench::Number((after / before - 1) * 100, 1, "% more"));
 }
 
 }  // namespace
@@ -132,8 +104,7 @@ void MeasureMemory(Program& program) {
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
-  plenovia::Program program;
-  std::printf("Stereograms in the window, 4000 x 3000\n");
+  plenovia::bench::DesktopProgram program;
   const auto picture =
       std::make_shared<const plenovia::IndexedImage>(plenovia::bench::SmoothDepth(4000, 3000));
   plenovia::CompareGeneration(program, picture);

@@ -1,20 +1,18 @@
 // How long the program takes until its frame is shown, against an empty window of Qt's with the
 // same menu.
 
-#include <spawn.h>
-#include <sys/wait.h>
-
 #include <QApplication>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 
 #include "app/command_table.h"
 #include "app/plenovia_app.h"
+#include "bench/child_process.h"
 #include "bench/stopwatch.h"
+#include "bench/table.h"
 
 namespace plenovia {
 namespace {
@@ -50,18 +48,18 @@ int ShowOne(int argc, char** argv, bool empty) {
   std::_Exit(0);
 }
 
-double SecondsOfRuns(const char* self, const char* which) {
-  return bench::Seconds(
+int Compare(const std::string& self) {
+  const auto [program, empty] = bench::SecondsInTurn(
       [&] {
-        std::string program = self;
-        std::string argument = which;
-        char* arguments[] = {program.data(), argument.data(), nullptr};
-        pid_t child = 0;
-        if (posix_spawn(&child, self, nullptr, nullptr, arguments, environ) != 0) return;
-        int status = 0;
-        waitpid(child, &status, 0);
+        bench::RunProgram({self, "program"});
+      },
+      [&] {
+        bench::RunProgram({self, "empty"});
       },
       15);
+  bench::PrintTimes("start until the frame is shown", program, "empty window with the same menu",
+                    empty);
+  return 0;
 }
 
 }  // namespace
@@ -71,11 +69,5 @@ int main(int argc, char** argv) {
   const char* which = argc > 1 ? argv[1] : "";
   if (std::strcmp(which, "empty") == 0) return plenovia::ShowOne(argc, argv, true);
   if (std::strcmp(which, "program") == 0) return plenovia::ShowOne(argc, argv, false);
-  const double empty = plenovia::SecondsOfRuns(argv[0], "empty");
-  const double program = plenovia::SecondsOfRuns(argv[0], "program");
-  std::printf("Start of the desktop program until its frame is shown, best of 15\n");
-  std::printf("  empty window with the same menu  %6.1f ms\n", empty * 1e3);
-  std::printf("  the program with its patterns    %6.1f ms, %.2f times\n", program * 1e3,
-              program / empty);
-  return 0;
+  return plenovia::Compare(argv[0]);
 }

@@ -1,10 +1,10 @@
-// Prints how fast each figure gives its levels, in million levels a second of one core, called
-// pixel by pixel.
+// How fast the figures give their levels, called pixel by pixel.
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
 #include <ctime>
+#include <string>
 
+#include "bench/table.h"
 #include "figures/sirdmath.h"
 
 namespace {
@@ -36,13 +36,19 @@ double MillionLevelsPerSecond(std::int32_t code) {
 int main() {
   _InitFigureTitles();
   double slowest = 1e9;
+  double fastest = 0;
+  std::string slowestTitle;
+  std::string fastestTitle;
   for (std::int32_t number = 0; number < _GetFigureCount(); ++number) {
     char title[40];
     _GetFigureTitle(number, title, sizeof title);
     const double rate = MillionLevelsPerSecond(-(number + 1));
+    if (rate < slowest) slowestTitle = title;
+    if (rate > fastest) fastestTitle = title;
     slowest = std::min(slowest, rate);
-    std::printf("%-40s %7.1f\n", title, rate);
+    fastest = std::max(fastest, rate);
   }
-  std::printf("%-40s %7.1f million levels a second\n", "slowest", slowest);
+  plenovia::bench::PrintRates("levels of the slowest figure: " + slowestTitle, slowest, "pixels",
+                              "the fastest: " + fastestTitle, fastest);
   _UnloadFigureTitles();
 }

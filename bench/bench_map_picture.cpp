@@ -1,13 +1,14 @@
 // What the editor of depth maps needs to show a map of many objects, and to drag one of them.
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
 #include <memory>
 #include <span>
+#include <string>
 #include <utility>
 #include <vector>
 
 #include "bench/stopwatch.h"
+#include "bench/table.h"
 #include "depthmap/depth_list.h"
 #include "depthmap/map_picture.h"
 #include "platform/random.h"
@@ -46,7 +47,7 @@ TDepthList MapOf(int objects, int greatest) {
   return map;
 }
 
-// Milliseconds for the whole picture from nothing, and for the slowest of the steps that drag one
+// Seconds for the whole picture from nothing, and for the slowest of the steps that drag one
 // object, once it is being dragged, across the map.
 std::pair<double, double> Measure(TDepthList& map, const TDepthObj* dragged) {
   BoxLabels labels;
@@ -72,17 +73,18 @@ std::pair<double, double> Measure(TDepthList& map, const TDepthObj* dragged) {
                                     },
                                     1));
   }
-  return {whole * 1e3, slowest * 1e3};
+  return {whole, slowest};
 }
 
 int Run() {
-  std::printf("Depth map of %d x %d in its editor, all of it painted each time\n", kSide, kSide);
   for (const int greatest : {40, 200, 1200}) {
-    for (const int objects : {10, 1000, 100000}) {
+    for (const int objects : {1000, 100000}) {
       TDepthList map = MapOf(objects, greatest);
       const auto [whole, step] = Measure(map, map.Head());
-      std::printf("%6d objects of up to %4d pixels: whole %7.2f ms, slowest drag step %5.2f ms\n",
-                  objects, greatest, whole, step);
+      const std::string shapes =
+          std::to_string(objects) + " shapes up to " + std::to_string(greatest);
+      if (objects == 1000) bench::PrintTimes("editor, all of " + shapes, whole, "bound", 0.050);
+      bench::PrintTimes("editor, drag step in " + shapes, step, "bound", 0.016);
     }
   }
   return 0;

@@ -1,11 +1,13 @@
-// The depth found again in a large stereogram, on one core: seconds, and millions of separations of
-// pixels a second, beside copying as many bytes.
+// The depth found again in a large stereogram, on one core: separations tried at all pixels, beside
+// copying as many bytes.
 
-#include <cstdio>
 #include <cstring>
+#include <string>
 #include <vector>
 
+#include "bench/quiet_monitor.h"
 #include "bench/stopwatch.h"
+#include "bench/table.h"
 #include "engine/reveal.h"
 #include "engine/scan_methods.h"
 #include "platform/random.h"
@@ -19,12 +21,6 @@ constexpr int kHeight = 3000;
 constexpr int kSmallest = 40;
 constexpr int kLargest = 103;
 constexpr double kMillions = 1e-6 * kWidth * kHeight * (kLargest - kSmallest + 1);
-
-class NoMonitor : public RunMonitor {
- public:
-  void OnProgress(ProgressPhase, const ProgressInfo&) override {}
-  bool StopRequested() override { return false; }
-};
 
 // Slopes over a background of random pixels.
 IndexedImage Stereogram(const Palette& palette) {
@@ -42,24 +38,23 @@ IndexedImage Stereogram(const Palette& palette) {
   return picture;
 }
 
-void Measure(const char* name, const Palette& palette) {
+void Measure(const std::string& name, const Palette& palette, double copy) {
   const IndexedImage picture = Stereogram(palette);
   const RevealOptions options{.smallest = kSmallest, .largest = kLargest};
-  NoMonitor monitor;
+  bench::QuietMonitor monitor;
   const double seconds = bench::Seconds(
       [&] {
         const auto revealed = Reveal(picture, options, monitor);
         if (revealed) bench::Keep(revealed->separation.data());
       },
       3);
-  std::printf("%-8s %8.2f s %8.0f\n", name, seconds, kMillions / seconds);
+  bench::PrintRates("Reveal, " + name + ", 64 separations", kMillions / seconds, "tries",
+                    "copying as many bytes", kMillions / copy);
 }
 
 }  // namespace
 
 int main() {
-  std::printf("Reveal, one core, %d x %d, %d separations, and millions of them a second\n", kWidth,
-              kHeight, kLargest - kSmallest + 1);
   const std::vector<std::uint8_t> from(std::size_t{kWidth} * kHeight, 1);
   std::vector<std::uint8_t> to(from.size());
   constexpr int kCopies = kLargest - kSmallest + 1;
@@ -69,10 +64,9 @@ int main() {
       bench::Keep(to.data());
     }
   });
-  std::printf("%-8s %8.2f s %8.0f\n", "copying", copy, kMillions / copy);
   Random random(2);
   std::vector<Rgb> colours(256);
   for (Rgb& colour : colours) colour = {random.Byte(), random.Byte(), random.Byte()};
-  Measure("gray", Palette::Grays());
-  Measure("colour", Palette(colours));
+  Measure("gray", Palette::Grays(), copy);
+  Measure("colours", Palette(colours), copy);
 }

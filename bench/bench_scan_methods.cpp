@@ -1,13 +1,14 @@
-// The scan methods on one core: megapixels a second of the plain rule and of the prepared form,
-// beside copying the rows.
+// The scan methods on one core at 4000 x 3000: the prepared form beside the plain rule and beside
+// copying the rows.
 
-#include <cstdio>
 #include <cstring>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "bench/smooth_depth.h"
 #include "bench/stopwatch.h"
+#include "bench/table.h"
 #include "engine/prepared_shift.h"
 #include "platform/random.h"
 
@@ -54,8 +55,9 @@ void Measure(const char* name, std::int32_t method, std::span<const std::uint8_t
     }
   });
   const double mega = kWidth * 1e-6 * kHeight;
-  std::printf("%-14s %10.0f %10.0f %10.0f %9.1fx\n", name, mega / copy, mega / plain,
-              mega / prepared, plain / prepared);
+  const std::string what = std::string(name) + ", one thread";
+  bench::PrintRates(what, mega / prepared, "pixels", "its plain rule", mega / plain);
+  bench::PrintRates(what, mega / prepared, "pixels", "copying the rows", mega / copy);
 }
 
 }  // namespace
@@ -65,8 +67,6 @@ int main() {
   Random random(1);
   std::vector<std::uint8_t> background(kWidth);
   for (auto& pixel : background) pixel = random.Byte();
-  std::printf("Scan methods, one core, %d x %d, megapixels a second\n", kWidth, kHeight);
-  std::printf("%-14s %10s %10s %10s %10s\n", "", "copying", "plain", "prepared", "ratio");
   Measure("Left-To-Right", kLeftToRight, depth.pixels(), background);
   Measure("McMahon", kMcMahon, depth.pixels(), background);
   Measure("Feucht", kFeucht, depth.pixels(), background);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace plenovia::bench {
 
@@ -17,6 +18,19 @@ double Seconds(const Work& work, int runs = 7) {
     best = std::min(best, taken.count());
   }
   return best;
+}
+
+// The shortest runs of two ways of doing something, in seconds. They take turns, so that whatever
+// else the machine does meets both.
+template <class Work, class OtherWork>
+std::pair<double, double> SecondsInTurn(const Work& work, const OtherWork& other, int runs = 7) {
+  double best = 1e9;
+  double otherBest = 1e9;
+  for (int i = 0; i < runs; ++i) {
+    best = std::min(best, Seconds(work, 1));
+    otherBest = std::min(otherBest, Seconds(other, 1));
+  }
+  return {best, otherBest};
 }
 
 // Makes the compiler believe that what `memory` points to is used.
