@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "depthmap/depth_list.h"
+#include "depthmap/tests/random_edit.h"
 #include "platform/random.h"
 
 namespace plenovia {
@@ -62,29 +63,10 @@ TEST(LevelRows, FollowEveryEdit) {
   Random random(5);
   TDepthList list = RandomMap(random);
   for (int step = 0; step < 300; ++step) {
-    list.Select(list.ObjectAt(random.Int(0, kSide), random.Int(0, kSide)));
     list.SetCurrentLevel(step);
-    switch (random.Int(0, 5)) {
-      case 0:
-        list.AddObject(std::make_unique<TDepthObj>(
-            nullptr, DepthRect{Coordinate(random), Coordinate(random), 30, 30}, CircleObj, step));
-        break;
-      case 1:
-        list.CmDelete();
-        break;
-      case 2:
-        list.CmMoveUp();
-        break;
-      case 3:
-        list.CmMoveDown();
-        break;
-      case 4:
-        list.ApplyObjectLevel(list.Selected());
-        break;
-      default:
-        if (list.Selected() != list.Background())
-          list.MoveSelectedTo({random.Int(0, 50), 0, 60, 60});
-    }
+    const DepthRect rect{Coordinate(random), Coordinate(random), 30, 30};
+    EditAtRandom(list, random, std::make_unique<TDepthObj>(nullptr, rect, CircleObj, step),
+                 list.ObjectAt(random.Int(0, kSide), random.Int(0, kSide)));
     for (int y = 0; y < kSide; y += 7) ExpectRow(list, y, kSide);
   }
 }

@@ -11,6 +11,7 @@
 
 #include "depthmap/level_choice.h"
 #include "depthmap/object_painting.h"
+#include "depthmap/tests/random_edit.h"
 #include "platform/random.h"
 
 namespace plenovia {
@@ -120,30 +121,7 @@ TEST(MapPicture, FollowsEveryEditToThePixel) {
   for (int step = 0; step < 120; ++step) {
     list.SetCurrentLevel(step % 256);
     const TDepthObj* hit = list.ObjectAt(random.Int(0, 119), random.Int(0, 39));
-    switch (random.Int(0, 7)) {
-      case 0:
-        list.AddObject(RandomObject(random));
-        break;
-      case 1:
-        list.CmDelete();
-        break;
-      case 2:
-        list.CmMoveUp();
-        break;
-      case 3:
-        list.CmMoveDown();
-        break;
-      case 4:
-        list.ApplyObjectLevel(hit);
-        break;
-      case 5:
-        list.Select(hit);
-        break;
-      default:
-        if (list.Selected() == nullptr) break;
-        list.MoveSelectedTo(
-            list.Selected()->GetRect().Shifted(random.Int(-9, 9), random.Int(-9, 9)));
-    }
+    EditAtRandom(list, random, RandomObject(random), hit);
     const int left = random.Int(0, kWidth - 1);
     const int top = random.Int(0, kHeight - 1);
     const int right = random.Int(left + 1, kWidth);
