@@ -13,6 +13,7 @@
 #include "app/button_bar.h"
 #include "app/command_bars.h"
 #include "app/command_table.h"
+#include "app/file_drop.h"
 #include "app/frame_messages.h"
 #include "app/frame_placement.h"
 #include "app/help_window.h"
@@ -61,6 +62,7 @@ TPlenoviaWnd::TPlenoviaWnd(const ProfileFile& settings, TWelcome* welcome)
   } else {
     PlaceFrame(*this, LoadFrameRect(settings));
   }
+  new FileDrop(*this);
   hint_ = new PopupHint(this, [this](int command) { return commands_->Hint(command); });
 }
 
