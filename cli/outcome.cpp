@@ -1,7 +1,7 @@
 #include "cli/outcome.h"
 
-#include <algorithm>
 #include <cerrno>
+#include <cstddef>
 #include <cstdio>
 #include <cstring>
 #include <utility>
@@ -18,9 +18,12 @@ tl::unexpected<Complaint> WrongUsage(std::string message) {
 
 void Report(const Complaint& complaint) {
   std::string line = "sirds: " + complaint.message;
-  std::replace_if(
-      line.begin(), line.end(),
-      [](char c) { return static_cast<unsigned char>(c) < 32 || c == 127; }, '?');
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    const auto c = static_cast<unsigned char>(line[i]);
+    if (c < 32 || c == 127) line[i] = '?';
+    // U+0080 to U+009F, which terminals obey too, in UTF-8.
+    if (c >= 0x80 && c < 0xa0 && i > 0 && line[i - 1] == '\xc2') line.replace(i - 1, 2, "??");
+  }
   line += '\n';
   std::fputs(line.c_str(), stderr);
 }

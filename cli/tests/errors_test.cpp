@@ -118,7 +118,7 @@ const Wrong kFiles[] = {
      {"make", "@/scene.bmp", "-o", "@/no/out.png", "--pattern", "@/tile.gif"},
      1,
      {"@/no/out.png: "}},
-    {"LineBreakInName", {"info", "no\nsuch\nfile"}, 1, {"no?such?file"}},
+    {"ControlsInName", {"info", "no\nsuch\xc2\x9bmap\xc3\x9b"}, 1, {"no?such??map\xc3\x9b: "}},
     {"MapAsStereogram", {"reveal", "@/map.rds", "-o", "@/out.png"}, 1, {"@/map.rds: "}},
 };
 INSTANTIATE_TEST_SUITE_P(Files, Errors, testing::ValuesIn(kFiles),
