@@ -47,6 +47,8 @@ as_user=(runuser -u "$user" -- env -i HOME="$public/home" PATH=/usr/bin:/bin LAN
 [ "$("${as_user[@]}" gio info -a standard::content-type "$map" | grep -o "$mime")" = "$mime" ] ||
   fail "a depth map has not its type"
 "${as_user[@]}" gio mime "$mime" | grep -q plenovia.desktop || fail "nothing opens a depth map"
+[ "$("${as_user[@]}" xdg-mime query default "$mime")" = plenovia.desktop ] ||
+  fail "xdg-open does not know what opens a depth map"
 man -w plenovia sirds >/dev/null || fail "the manual pages are missing"
 "${as_user[@]}" bash "$public/installed_walk.sh"
 

@@ -60,7 +60,8 @@ leave_program() {
 }
 
 mkfifo "$work/display"
-Xvfb -displayfd 3 -screen 0 1280x1000x24 3>"$work/display" >/dev/null 2>&1 &
+# Without -noreset it starts anew when the first question has been answered, and may miss the next.
+Xvfb -noreset -displayfd 3 -screen 0 1280x1000x24 3>"$work/display" >/dev/null 2>&1 &
 read -r number <"$work/display"
 export DISPLAY=:$number
 openbox >/dev/null 2>&1 &
