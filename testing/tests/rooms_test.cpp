@@ -25,7 +25,7 @@ const std::map<std::string, std::set<std::string>> kRooms = {
     {"sirdspat", {"codec", "platform"}},
     {"samples", {"codec", "depthmap", "platform"}},
     {"bench", {"app", "codec", "depthmap", "engine", "engine/ui", "figures", "images", "platform"}},
-    {"fuzz", {"codec", "depthmap", "engine", "platform"}},
+    {"fuzz", {"cli", "codec", "depthmap", "engine", "platform"}},
     {"testing", {"codec", "depthmap", "engine", "figures", "images", "platform"}},
     {"platform/ui", {"platform"}},
     {"depthmap/ui", {"depthmap", "platform", "platform/ui"}},
