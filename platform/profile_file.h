@@ -1,43 +1,52 @@
 // A private settings file of sections, keys and text values.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "platform/result.h"
 
 namespace plenovia {
 
-// The contents in memory of one such file. Names of sections and keys compare without regard to
-// case. Everything in the file that is not asked for stays as it is when the file is written.
+// The lines of one such file. Names of sections and keys compare without regard to case; of a key
+// that stands twice the first counts. Whatever is not set stays as it is, byte for byte, when the
+// file is written.
 class ProfileFile {
  public:
-  ProfileFile();  // empty
-  ProfileFile(ProfileFile&&) noexcept;
-  ProfileFile& operator=(ProfileFile&&) noexcept;
-  ~ProfileFile();
+  ProfileFile() = default;  // empty
 
+  // The contents of a file, and what is to be put into it. Lines that are not of the form [section]
+  // or key=value are kept and passed over.
+  static ProfileFile Parse(std::string_view text);
+  std::string Text() const;
   // Reads a file of at most 1 MiB. A missing file gives an empty profile; a file that is there but
-  // cannot be read is an error. Text that is not of the form section, key and value is kept or
-  // passed over, never an error.
+  // cannot be read is an error.
   [[nodiscard]] static Result<ProfileFile> Load(const std::filesystem::path& path);
   [[nodiscard]] Result<void> Save(const std::filesystem::path& path) const;
 
   // The leading decimal number of the value, with its sign, clamped to 32 bits; 0 for a value that
   // does not start with a number; `missing` when there is no such key.
-  std::int32_t GetInt(const std::string& section, const std::string& key,
-                      std::int32_t missing) const;
-  std::string GetText(const std::string& section, const std::string& key,
-                      const std::string& missing) const;
-  void SetInt(const std::string& section, const std::string& key, std::int32_t value);
-  // `value` is one line.
-  void SetText(const std::string& section, const std::string& key, const std::string& value);
+  std::int32_t GetInt(std::string_view section, std::string_view key, std::int32_t missing) const;
+  // Without the space around it.
+  std::string GetText(std::string_view section, std::string_view key,
+                      std::string_view missing) const;
+  void SetInt(std::string_view section, std::string_view key, std::int32_t value);
+  // `value` counts up to its first line break.
+  void SetText(std::string_view section, std::string_view key, std::string_view value);
 
  private:
-  struct Contents;
-  std::unique_ptr<Contents> contents_;
+  struct Place {
+    std::optional<std::size_t> line;  // of the key
+    std::optional<std::size_t> end;   // of its section: one behind the last line that is not blank
+  };
+  Place Find(std::string_view section, std::string_view key) const;
+
+  std::vector<std::string> lines_;  // without "\n"; none for an empty file
 };
 
 }  // namespace plenovia

@@ -123,7 +123,30 @@ TEST(ProfileFile, ReadsNumbersAsTheyStandAndKeepsTheRest) {
   EXPECT_EQ(again.GetInt("Tools", "CntlBar", 5), -3);
   EXPECT_EQ(again.GetText("wizard", "source_name", ""), "h\xc3\xb6rt = ; gut");
   EXPECT_EQ(again.GetText("Mine", "other", ""), "kept");
-  EXPECT_NE(Text(file).find("; a note"), std::string::npos);
+  EXPECT_EQ(Text(file),
+            "; a note\n[Tools]\nCntlBar=-3\nword=abc\nlow = -17\nhuge=99999999999\n"
+            "[Mine]\nother=kept\n\n[wizard]\nsource_name=h\xc3\xb6rt = ; gut\n");
+}
+
+TEST(ProfileFile, ChangesNothingButWhatIsSet) {
+  const struct {
+    std::string_view before, after;  // of n=7 set in section a
+  } cases[] = {
+      {"", "[a]\nn=7\n"},
+      {"\n", "\n[a]\nn=7\n"},
+      {"[b]\r\nn=1", "[b]\r\nn=1\n\r\n[a]\r\nn=7\r\n"},
+      {"[a]\n\n\n[b]\nn=1\n", "[a]\nn=7\n\n\n[b]\nn=1\n"},
+      {"[A]\r\n N = 1 \r\nn=2\r\n", "[A]\r\n N =7\r\nn=2\r\n"},
+      {"\xef\xbb\xbf[a]x\nloose\n=\n", "\xef\xbb\xbf[a]x\nloose\n=\nn=7\n"},
+      {"[a\n;n=1\n[ a ]\n#n=2", "[a\n;n=1\n[ a ]\n#n=2\nn=7"},
+  };
+  for (const auto& [before, after] : cases) {
+    ProfileFile profile = ProfileFile::Parse(before);
+    EXPECT_EQ(profile.Text(), before);
+    profile.SetText("a", "n", "7\n[b]");
+    EXPECT_EQ(profile.Text(), after);
+    EXPECT_EQ(profile.GetInt("a", "n", 0), 7) << before;
+  }
 }
 
 TEST(ProfileFile, MissingFilesAreEmptyAndFoldersAreErrors) {
