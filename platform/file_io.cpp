@@ -14,6 +14,8 @@
 #include <system_error>
 #include <vector>
 
+#include "platform/temporary_file.h"
+
 namespace plenovia {
 
 namespace fs = std::filesystem;
@@ -34,28 +36,9 @@ class Descriptor {
     if (value_ >= 0) close(value_);
   }
   int get() const { return value_; }
-  bool Close() {
-    const int value = std::exchange(value_, -1);
-    return close(value) == 0;
-  }
 
  private:
   int value_;
-};
-
-// Removes the temporary file unless it was renamed.
-class Leftover {
- public:
-  explicit Leftover(std::string path) : path_(std::move(path)) {}
-  Leftover(const Leftover&) = delete;
-  Leftover& operator=(const Leftover&) = delete;
-  ~Leftover() {
-    if (!path_.empty()) unlink(path_.c_str());
-  }
-  void Keep() { path_.clear(); }
-
- private:
-  std::string path_;
 };
 
 bool WriteAll(int descriptor, std::span<const std::span<const std::uint8_t>> pieces) {
@@ -90,21 +73,6 @@ fs::path FollowLinks(fs::path path) {
     path = target.is_absolute() ? target : path.parent_path() / target;
   }
   return path;
-}
-
-// Creates and opens a new file in the folder of `target`, with these permissions as far as the
-// process grants them to new files, and sets `name` to its path. Negative on failure.
-int CreateBeside(const fs::path& target, mode_t permissions, std::string& name) {
-  constexpr int kTries = 1000;
-  const std::string start =
-      (target.parent_path() / (".plenovia-" + std::to_string(getpid()) + "-")).string();
-  int descriptor = -1;
-  for (int i = 0; i < kTries; ++i) {
-    name = start + std::to_string(i);
-    descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions);
-    if (descriptor >= 0 || errno != EEXIST) break;
-  }
-  return descriptor;
 }
 
 }  // namespace
@@ -149,18 +117,15 @@ Result<void> WriteFile(const fs::path& path,
 
   // Without the set-user-ID bit: the new file is the saver's own, whoever the old one belonged to.
   const mode_t permissions = replaces ? old.st_mode & 0777 : 0666;
-  std::string name;
-  Descriptor file(CreateBeside(target, permissions, name));
-  if (file.get() < 0) return SystemFailure("cannot be written");
-  Leftover leftover(name);
-
-  if (!WriteAll(file.get(), pieces)) return SystemFailure("cannot be written");
-  if (replaces && fchmod(file.get(), permissions) != 0) return SystemFailure("cannot be written");
+  TemporaryFile file(target, permissions);
+  if (file.descriptor() < 0) return SystemFailure("cannot be written");
+  if (!WriteAll(file.descriptor(), pieces)) return SystemFailure("cannot be written");
+  if (replaces && fchmod(file.descriptor(), permissions) != 0) {
+    return SystemFailure("cannot be written");
+  }
   // Without this a power failure soon after the renaming could lose the old file and the new one.
-  if (replaces && fdatasync(file.get()) != 0) return SystemFailure("cannot be written");
-  if (!file.Close()) return SystemFailure("cannot be written");
-  if (rename(name.c_str(), target.c_str()) != 0) return SystemFailure("cannot be written");
-  leftover.Keep();
+  if (replaces && fdatasync(file.descriptor()) != 0) return SystemFailure("cannot be written");
+  if (!file.Replace(target)) return SystemFailure("cannot be written");
   return {};
 }
 
