@@ -56,10 +56,11 @@ void RemoveAbandoned(const fs::path& folder) {
   }
 }
 
-// Whether the file is still there: before it was locked it could be taken for an abandoned one.
+// Whether the file stays: before it is locked another saver may take it for an abandoned one.
 bool Lock(int descriptor) {
   struct stat status {};
-  flock(descriptor, LOCK_EX | LOCK_NB);  // without locks nobody removes anything
+  // Any other failure: without locks nobody removes anything.
+  if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) return false;
   return fstat(descriptor, &status) == 0 && status.st_nlink > 0;
 }
 
