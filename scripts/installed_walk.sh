@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Uses the installed programs as a user who may write to none of their folders: a depth map named on
-# the command line becomes a stereogram, and a pattern cut out of it is still there after a restart.
+# Uses the installed programs as a user who may write to none of their folders: a depth map that is
+# double-clicked becomes a stereogram, and a pattern cut out of it is still there after a restart.
 set -euo pipefail
 NAME=installed
 . "$(dirname "$0")/virtual_desktop.sh"
@@ -10,7 +10,9 @@ samples=/usr/share/plenovia/samples
 [ "$(sirds patterns | wc -l)" = 20 ] || fail "the patterns are not found"
 sirds make "figure:Trefoil" -o "$work/figure.png" -q
 
-start_program plenovia "$samples/castle.rds"
+# As the double click of a file manager does it; the program is no child of the shell then.
+start_program gio open "$samples/castle.rds"
+program=$(pgrep -x -u "$(id -u)" plenovia)
 keys alt+g m
 sleep 2
 keys alt+g p
@@ -26,7 +28,11 @@ keys alt+n
 wait_for "the program to end" has_ended "$program"
 
 start_program plenovia
+keys alt+h i
+wait_for "the help" has_window '^Plenovia Help$'
+keys alt+F4
+wait_for "the help to go" has_no_window '^Plenovia Help$'
 leave_program
 grep -q '^Count=21' "$XDG_CONFIG_HOME/plenovia/PLENOVIA.INI" || fail "the added pattern is lost"
 sirds make "$samples/castle.rds" --pattern 20 -o "$work/castle.png" -q
-echo "installed: a map opened, its stereogram made, a pattern added and kept"
+echo "installed: a map double-clicked, its stereogram made, a pattern added and kept"
