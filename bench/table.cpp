@@ -7,9 +7,12 @@ namespace plenovia::bench {
 
 namespace {
 
-// How many times as fast something is, or as long it takes: the one that is not below 1.
+std::string Times(double times, const std::string& as) {
+  return Number(times, times < 10 ? 2 : 0, "times as " + as);
+}
+
 std::string Speed(double times) {
-  return times >= 1 ? Number(times, 1, "times as fast") : Number(1 / times, 2, "times as long");
+  return times >= 1 ? Times(times, "fast") : Times(1 / times, "long");
 }
 
 }  // namespace

@@ -200,7 +200,7 @@ Result<EncodedPicture> EncodeGif(const IndexedImage& picture) {
     const Rgb c = picture.palette()[i];
     map->Colors[i] = {c.red, c.green, c.blue};
   }
-  std::vector<std::uint8_t> codes;
+  ByteBuffer codes;
   try {
     codes = CompressLzw(std::max(2, bits), picture.pixels());
   } catch (const std::bad_alloc&) {

@@ -18,10 +18,11 @@ class BitWriter {
     pending_ |= std::uint64_t{bits} << pendingBits_;
     pendingBits_ += count;
     if (pendingBits_ < 32) return;
-    const std::uint32_t word = static_cast<std::uint32_t>(pending_);
-    bytes_.insert(bytes_.end(),
-                  {static_cast<std::uint8_t>(word), static_cast<std::uint8_t>(word >> 8),
-                   static_cast<std::uint8_t>(word >> 16), static_cast<std::uint8_t>(word >> 24)});
+    const std::size_t at = bytes_.size();
+    bytes_.resize(at + 4);
+    for (std::size_t i = 0; i < 4; ++i) {
+      bytes_[at + i] = static_cast<std::uint8_t>(pending_ >> (8 * i));
+    }
     pending_ >>= 32;
     pendingBits_ -= 32;
   }
@@ -29,7 +30,7 @@ class BitWriter {
     for (const std::uint8_t byte : other.bytes_) Write(byte, 8);
     Write(static_cast<std::uint32_t>(other.pending_), other.pendingBits_);
   }
-  std::vector<std::uint8_t> Finish() {
+  ByteBuffer Finish() {
     for (; pendingBits_ > 0; pendingBits_ -= 8, pending_ >>= 8) {
       bytes_.push_back(static_cast<std::uint8_t>(pending_));
     }
@@ -37,7 +38,7 @@ class BitWriter {
   }
 
  private:
-  std::vector<std::uint8_t> bytes_;
+  ByteBuffer bytes_;
   std::uint64_t pending_ = 0;
   int pendingBits_ = 0;  // below 32 between calls
 };
@@ -107,7 +108,7 @@ void CompressPart(int codeBits, std::span<const std::uint8_t> pixels, StringTabl
 
 }  // namespace
 
-std::vector<std::uint8_t> CompressLzw(int codeBits, std::span<const std::uint8_t> pixels) {
+ByteBuffer CompressLzw(int codeBits, std::span<const std::uint8_t> pixels) {
   const std::size_t parts = (pixels.size() + kLzwPartPixels - 1) / kLzwPartPixels;
   std::vector<Part> done(parts);
   const std::size_t workers =

@@ -5,7 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
-#include <vector>
+
+#include "platform/pixel_buffer.h"
 
 namespace plenovia {
 
@@ -16,6 +17,6 @@ inline constexpr std::size_t kLzwPartPixels = std::size_t{1} << 19;
 // The codes for `pixels`, packed as in the blocks of a GIF file, with the end code. `codeBits`
 // (2..8) is the width of a pixel; no pixel may be wider. At least one pixel. The same on every
 // machine; a single part is what giflib makes of it.
-std::vector<std::uint8_t> CompressLzw(int codeBits, std::span<const std::uint8_t> pixels);
+ByteBuffer CompressLzw(int codeBits, std::span<const std::uint8_t> pixels);
 
 }  // namespace plenovia
