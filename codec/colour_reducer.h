@@ -18,8 +18,7 @@ namespace plenovia {
 // - A picture of at most `colours` (256) colours keeps them exactly, from dark to bright (then by
 //   red, green, blue).
 // - Any other gets `colours` fitted colours, from dark to bright: a histogram of 6 bits a channel
-// is
-//   clustered (FitClusters), and each of its cells goes to the nearest colour.
+//   is clustered (FitClusters), and each of its cells goes to the nearest colour.
 class ColourReducer {
  public:
   explicit ColourReducer(int colours = 256);  // 1..256
