@@ -10,6 +10,7 @@
 
 #ifdef __SANITIZE_ADDRESS__
 extern "C" void __sanitizer_set_death_callback(void (*callback)());
+extern "C" void __sanitizer_print_stack_trace();
 #endif
 
 namespace plenovia {
@@ -24,6 +25,9 @@ void PrintTheLog() {
 
 extern "C" void DieOf(int signal) {
   PrintTheLog();
+#ifdef __SANITIZE_ADDRESS__
+  __sanitizer_print_stack_trace();
+#endif
   std::signal(signal, SIG_DFL);
   std::raise(signal);
 }

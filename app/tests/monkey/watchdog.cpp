@@ -1,11 +1,12 @@
 #include "app/tests/monkey/watchdog.h"
 
+#include <csignal>
 #include <cstdio>
-#include <cstdlib>
 
 namespace plenovia {
 
-Watchdog::Watchdog(std::chrono::seconds limit) : limit_(limit), thread_([this] { Watch(); }) {}
+Watchdog::Watchdog(std::chrono::seconds limit)
+    : limit_(limit), watched_(pthread_self()), thread_([this] { Watch(); }) {}
 
 Watchdog::~Watchdog() {
   {
@@ -30,7 +31,8 @@ void Watchdog::Watch() {
     if (!changed_.wait_for(lock, limit_, [this] { return patted_ || ends_; })) {
       std::fprintf(stderr, "A step takes more than %lld seconds.\n",
                    static_cast<long long>(limit_.count()));
-      std::abort();
+      pthread_kill(watched_, SIGABRT);
+      return;
     }
     patted_ = false;
   }

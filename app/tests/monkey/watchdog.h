@@ -1,6 +1,8 @@
 // Notices that a step of a test does not end.
 #pragma once
 
+#include <pthread.h>
+
 #include <chrono>
 #include <condition_variable>
 #include <functional>
@@ -9,7 +11,8 @@
 
 namespace plenovia {
 
-// Aborts the process when Pat() is not called for longer than `limit`.
+// When Pat() is not called for longer than `limit`, the thread that made it gets SIGABRT, where it
+// hangs.
 class Watchdog {
  public:
   explicit Watchdog(std::chrono::seconds limit);
@@ -23,6 +26,7 @@ class Watchdog {
   void Watch();
 
   const std::chrono::seconds limit_;
+  const pthread_t watched_;
   std::mutex mutex_;
   std::condition_variable changed_;
   bool patted_ = false;
