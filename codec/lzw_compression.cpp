@@ -27,7 +27,11 @@ class BitWriter {
     pendingBits_ -= 32;
   }
   void Append(const BitWriter& other) {
-    for (const std::uint8_t byte : other.bytes_) Write(byte, 8);
+    for (std::size_t at = 0; at < other.bytes_.size(); at += 4) {
+      std::uint32_t word = 0;
+      for (std::size_t i = 0; i < 4; ++i) word |= std::uint32_t{other.bytes_[at + i]} << (8 * i);
+      Write(word, 32);
+    }
     Write(static_cast<std::uint32_t>(other.pending_), other.pendingBits_);
   }
   ByteBuffer Finish() {
@@ -38,7 +42,7 @@ class BitWriter {
   }
 
  private:
-  ByteBuffer bytes_;
+  ByteBuffer bytes_;  // whole words of four until Finish()
   std::uint64_t pending_ = 0;
   int pendingBits_ = 0;  // below 32 between calls
 };
