@@ -57,7 +57,8 @@ void MakeFromMap(TPlenoviaWnd& frame, TMapWindow& map) {
   frame.Adopt(*window);
   frame.Status().SetMessage(QString());
   frame.Status().SetImageText(QString());
-  const auto made = window->MakeSirdFromDepthMap(map.Levels());
+  const auto levels = map.Levels();  // kept, should the map be closed meanwhile
+  const auto made = window->MakeSirdFromDepthMap(*levels);
   if (!made) {
     ShowFailure(frame, made.error());
   } else if (window) {

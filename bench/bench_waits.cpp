@@ -11,7 +11,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -180,12 +179,12 @@ void Repaint(bench::DesktopProgram& program, const Picture& picture) {
 void SampleMap(bench::DesktopProgram& program) {
   constexpr int kSide = 4000;
   TSirdsWnd* window = program.Show(nullptr);
-  const auto make = [&](const std::shared_ptr<const LevelGrid>& map) {
+  const auto make = [&](const LevelGrid& map) {
     if (!window->MakeSirdFromDepthMap(map)) std::exit(1);
     program.HandleEvents();
   };
-  const auto big = std::make_shared<const TDepthList>(bench::CrowdedMap(kSide, 1000));
-  const auto flat = std::make_shared<const TDepthList>(kSide, kSide);
+  const TDepthList big = bench::CrowdedMap(kSide, 1000);
+  const TDepthList flat(kSide, kSide);
   const auto [waited, without] = bench::SecondsInTurn([&] { make(big); }, [&] { make(flat); }, 5);
   bench::PrintTimes("a run on a map of 4000 x 4000, 1000 objects", waited,
                     "the same map without objects", without);

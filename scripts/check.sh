@@ -16,7 +16,7 @@ cmake --preset clang -DPLENOVIA_WERROR=ON
 cmake --build --preset clang
 
 echo "== clang-tidy"
-git ls-files '*.cpp' | grep -vE '/tests/|/ui/|^app/|^bench/|^fuzz/' |
+git ls-files '*.cpp' | grep -vE '/tests/|^fuzz/' |
   xargs -P "$(nproc)" -n 4 clang-tidy-14 -p build/clang --quiet 2>/dev/null
 
 echo "== sanitizers"

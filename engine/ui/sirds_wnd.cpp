@@ -69,7 +69,7 @@ Result<TSirdResult> TSirdsWnd::MakeSirdFromBitmap() {
   return result;
 }
 
-Result<void> TSirdsWnd::MakeSirdFromDepthMap(std::shared_ptr<const LevelGrid> map) {
+Result<void> TSirdsWnd::MakeSirdFromDepthMap(const LevelGrid& map) {
   const QPointer<TSirdsWnd> self(this);
   const auto pattern = CurrentPattern();
   if (!pattern) return Finish(tl::unexpected(NoPattern().error()));
@@ -77,7 +77,7 @@ Result<void> TSirdsWnd::MakeSirdFromDepthMap(std::shared_ptr<const LevelGrid> ma
   const TSirdsSettings settings = *settings_;
   FrameMonitor monitor(Frame());
   monitor.UpdateStatusAtStart();
-  auto made = plenovia::MakeSirdFromDepthMap(*map, {*pattern, settings, monitor});
+  auto made = plenovia::MakeSirdFromDepthMap(map, {*pattern, settings, monitor});
   if (!self) return Failure(ErrorCode::kCancelled, "The window was closed.");
   return Finish(std::move(made));
 }

@@ -39,8 +39,9 @@ class TSirdsWnd : public TPictureWnd {
 
   // Makes a stereogram from this window's picture and leaves the window as it is.
   [[nodiscard]] Result<TSirdResult> MakeSirdFromBitmap();
-  // Makes the stereogram of a depth map in this window. When it cannot, the window closes.
-  [[nodiscard]] Result<void> MakeSirdFromDepthMap(std::shared_ptr<const LevelGrid> map);
+  // Makes the stereogram of a depth map in this window. When it cannot, the window closes. `map`
+  // has to stay for the whole run, in which any other window may be closed.
+  [[nodiscard]] Result<void> MakeSirdFromDepthMap(const LevelGrid& map);
   // Makes the stereogram of a mathematical figure in this window, over its picture when it has one
   // and the settings ask for that. `code` is below 0: -(number of the figure + 1). When the run is
   // stopped, or cannot be made and there was no picture, the window closes.
