@@ -274,7 +274,8 @@ bool TPlenoviaWnd::AllMayClose() {
   for (QMdiSubWindow* window : area_->subWindowList()) windows << window;
   for (const auto& window : windows) {
     auto* document = qobject_cast<TMouseWnd*>(window);
-    if (document == nullptr) continue;
+    // A window may have closed while another one asked.
+    if (document == nullptr || !area_->subWindowList().contains(document)) continue;
     area_->setActiveSubWindow(document);
     if (!document->CanClose()) return false;
   }

@@ -165,6 +165,19 @@ TEST_F(FrameTest, LeavingAsksForEachUnsavedWindowAndCancelKeepsEverything) {
   EXPECT_TRUE(std::filesystem::exists(SettingsFile()));
 }
 
+TEST_F(FrameTest, LeavingPassesOverAWindowThatClosesMeanwhile) {
+  Start();
+  AddPicture(NoisePicture(30, 20, 16))->SetSaved(false);
+  TSirdsWnd* second = AddPicture(NoisePicture(30, 20, 16));
+  second->SetSaved(false);
+  DialogAnswers answers;
+  answers.Add([second](QDialog& dialog) {
+    second->CloseUnasked();
+    static_cast<QMessageBox&>(dialog).button(QMessageBox::No)->click();
+  });
+  EXPECT_TRUE(Stop());
+}
+
 TEST_F(FrameTest, CloseAllStopsAtTheFirstCancel) {
   Start();
   for (int i = 0; i < 3; ++i) CmFileNew(Frame());
