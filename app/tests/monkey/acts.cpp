@@ -9,7 +9,6 @@
 #include <QPointer>
 #include <QToolButton>
 #include <QWindow>
-#include <QtTest/QTest>
 #include <vector>
 
 #include "app/command_table.h"
@@ -65,7 +64,7 @@ void OpenMenu(Monkey& monkey) {
   if (monkey.Dice().OneIn(2)) {
     const Qt::Key key = monkey.Dice().Pick(kMnemonics);
     monkey.Note("Alt and the key " + std::to_string(key));
-    QTest::keyClick(monkey.Frame().windowHandle(), key, Qt::AltModifier);
+    StrikeKey(monkey.Frame().windowHandle(), key, Qt::AltModifier);
   } else {
     monkey.Note("clicks on the menu bar");
     Click(*bar, bar->actionGeometry(monkey.Dice().Pick(bar->actions())).center(), monkey.Dice());

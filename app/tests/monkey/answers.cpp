@@ -9,7 +9,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QWindow>
-#include <QtTest/QTest>
 
 #include "app/tests/monkey/pokes.h"
 
@@ -85,7 +84,7 @@ void AnswerPopup(QWidget& popup, Chance& chance) {
     return;
   }
   const auto press = [&](Qt::Key key) {
-    if (self && self->isVisible() && window) QTest::keyClick(window, key);
+    if (self && self->isVisible()) StrikeKey(window, key);
   };
   for (int i = chance.Int(0, 9); i > 0; --i) press(chance.OneIn(4) ? Qt::Key_Up : Qt::Key_Down);
   press(chance.OneIn(3) ? Qt::Key_Escape : Qt::Key_Return);

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QPoint>
+#include <QPointer>
 #include <QWidget>
+#include <QWindow>
 
 #include "app/tests/monkey/chance.h"
 
@@ -15,6 +17,8 @@ void Click(QWidget& widget, QPoint place, Chance& chance);
 // A click, double click, drag, way or turn of the wheel that begins in the widget. What lies above
 // the widget gets it, as with a real mouse.
 void UseMouse(QWidget& widget, Chance& chance);
+// Presses the key and releases it, if the window is still there then.
+void StrikeKey(const QPointer<QWindow>& window, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 // A key, or a short word, to what has the focus in the window.
 void UseKeys(QWidget& window, Chance& chance);
 // Something that fits the kind of the widget: text for a field, another choice of a list, ...
