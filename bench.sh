@@ -8,7 +8,7 @@ need_packages "${build_packages[@]}" "${test_packages[@]}"
 
 mkdir -p build
 log=build/bench.log
-if ! { cmake --preset release && cmake --build --preset release; } >"$log" 2>&1; then
+if ! { cmake --preset release -DPLENOVIA_BENCH=ON && cmake --build --preset release; } >"$log" 2>&1; then
   tail -n 30 "$log" >&2
   exit 1
 fi

@@ -2,6 +2,8 @@
 
 #include <initializer_list>
 
+#include "documents/ui/commands.h"
+
 namespace plenovia {
 
 namespace {
@@ -15,22 +17,25 @@ void FillMainBar(ButtonBar& bar, const ActionOfCommand& action) {
   const auto add = [&](std::initializer_list<int> commands) {
     for (const int command : commands) bar.AddCommand(action(command));
   };
-  add({109, 901});
+  add({kCmRelocateBar, kCmHelpIndex});
   bar.AddSeparator(kNarrow);
-  add({24331, 24332, 24333, 221, 223, 24337});
+  add({kCmNew, kCmOpen, kCmSave, kCmCopy, kCmPaste, kCmPrint});
   bar.AddSeparator(kNarrow);
-  add({101, 102, 112, 110, 103, 105});
+  add({kCmZoomIn, kCmZoomOut, kCmFullScreen, kCmColorTable, kCmMakeSirds, kCmWizard});
   bar.AddSeparator(kNarrow);
-  add({107, 111});
+  add({kCmSettings, kCmPatterns});
   bar.AddSeparator(kWide);
-  add({205, 24310});
+  add({kCmStopProcess, kCmExit});
 }
 
 void FillToolsPalette(ButtonBar& bar, const ActionOfCommand& action) {
-  for (const int tool : {1251, 1252, 1255, 1256, 1257, 1258, 1259, 1260, 1261, 1253, 1254}) {
+  for (const int tool :
+       {kSelectTool, kMoveTool, kTextTool, kLineTool, kCurveTool, kSquareBoxTool, kRoundBoxTool,
+        kPolygonTool, kCircleTool, kGetLevelTool, kApplyLevelTool}) {
     bar.AddExclusive(action(tool));
   }
-  for (const int command : {1262, 1263, 1264, 1265, 1266}) bar.AddCommand(action(command));
+  for (const int command : {kSetLevel, kMoveObjectUp, kMoveObjectDown, kDeleteObject, kTextFont})
+    bar.AddCommand(action(command));
 }
 
 }  // namespace plenovia

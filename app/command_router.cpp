@@ -4,10 +4,10 @@
 #include <QMenu>
 #include <utility>
 
+#include "app/command_context.h"
 #include "app/command_table.h"
-#include "app/plenovia_wnd.h"
+#include "app/desk.h"
 #include "app/sirds_commands.h"
-#include "depthmap/ui/mouse_wnd.h"
 
 namespace plenovia {
 
@@ -26,15 +26,16 @@ const CommandRow* RowOf(int command) {
   return nullptr;
 }
 
-bool IsFigure(int command) {
-  return command >= kCmFirstFigure && command <= kCmLastFigure;
-}
-
 }  // namespace
 
-CommandRouter::CommandRouter(TPlenoviaWnd& frame) : QObject(&frame), frame_(frame) {
+CommandRouter::CommandRouter(QObject* parent, CommandContext& context)
+    : QObject(parent), context_(context) {
   for (const CommandRow& row : CommandTable()) {
-    if (row.number != 0) Add(row.number, Translated(row.text), Translated(row.hint));
+    if (row.number == 0) continue;
+    QAction* action = Add(row.number, Translated(row.text), Translated(row.hint));
+    if (row.keys != nullptr) {
+      action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(row.keys)));
+    }
   }
 }
 
@@ -83,7 +84,10 @@ QAction* CommandRouter::Action(int command) const {
 
 QString CommandRouter::Hint(int command) const {
   const QAction* action = Action(command);
-  return action != nullptr ? action->statusTip() : QString();
+  if (action == nullptr || action->statusTip().isEmpty()) return {};
+  const QString key = action->shortcut().toString(QKeySequence::NativeText);
+  return key.isEmpty() ? action->statusTip()
+                       : QStringLiteral("%1 (%2)").arg(action->statusTip(), key);
 }
 
 void CommandRouter::SetApplicationCommand(int command, std::function<void()> handler) {
@@ -91,27 +95,28 @@ void CommandRouter::SetApplicationCommand(int command, std::function<void()> han
 }
 
 void CommandRouter::Run(int command) {
-  TMouseWnd* active = frame_.GetActiveChild();
+  Document* active = context_.desk.Active();
   const CommandRow* row = RowOf(command);
   const auto application = applicationCommands_.find(command);
   if (active != nullptr && active->HandlesCommand(command)) {
     active->RunCommand(command);
   } else if (row != nullptr && row->handler != nullptr) {
-    row->handler(frame_);
-  } else if (IsFigure(command)) {
-    CmFigure(frame_, command);
+    row->handler(context_);
+  } else if (IsFigureCommand(command)) {
+    CmFigure(context_, command);
   } else if (application != applicationCommands_.end()) {
     application->second();
   }
+  Q_EMIT CommandDone(command);
   RefreshSoon();
 }
 
 bool CommandRouter::IsAvailable(int command) const {
-  const TMouseWnd* active = frame_.GetActiveChild();
-  if (active != nullptr && active->HandlesCommand(command)) return active->CommandEnabled(command);
   const CommandRow* row = RowOf(command);
-  if (row != nullptr && row->enabler != nullptr) return row->enabler(frame_);
-  return (row != nullptr && row->handler != nullptr) || IsFigure(command) ||
+  if (row != nullptr && row->enabler != nullptr && !row->enabler(context_)) return false;
+  const Document* active = context_.desk.Active();
+  if (active != nullptr && active->HandlesCommand(command)) return active->CommandEnabled(command);
+  return (row != nullptr && row->handler != nullptr) || IsFigureCommand(command) ||
          applicationCommands_.contains(command);
 }
 

@@ -9,17 +9,17 @@
 
 namespace plenovia {
 
-class TMouseWnd;
-class TPlenoviaWnd;
+struct CommandContext;
 
 // Holds one action a command; its data is the command's number, its status tip the hint. A command
 // goes to the active document window, then to the frame, then to the application: the first that
-// handles it runs it. The same way decides whether it is available.
+// handles it runs it. It is available when one of them handles it and its enabler agrees.
 class CommandRouter : public QObject {
   Q_OBJECT
 
  public:
-  explicit CommandRouter(TPlenoviaWnd& frame);
+  // `context` outlives it.
+  CommandRouter(QObject* parent, CommandContext& context);
 
   // Fills the bar with the menus of the command table.
   void BuildMenus(QMenuBar& bar);
@@ -28,6 +28,7 @@ class CommandRouter : public QObject {
 
   // The action of a command, or null.
   QAction* Action(int command) const;
+  // What the command does and its key, for the user.
   QString Hint(int command) const;
 
   // The application's command.
@@ -39,10 +40,14 @@ class CommandRouter : public QObject {
   void Refresh();
   void RefreshSoon();
 
+ Q_SIGNALS:
+  // A command was carried out.
+  void CommandDone(int command);
+
  private:
   QAction* Add(int command, const QString& text, const QString& hint);
 
-  TPlenoviaWnd& frame_;
+  CommandContext& context_;
   std::map<int, QAction*> actions_;
   std::map<int, std::function<void()>> applicationCommands_;
   bool refreshWaits_ = false;

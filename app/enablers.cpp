@@ -1,63 +1,53 @@
 #include "app/enablers.h"
 
-#include "app/plenovia_wnd.h"
-#include "depthmap/ui/map_window.h"
-#include "engine/ui/sirds_wnd.h"
-#include "images/ui/clipboard.h"
+#include "app/busy_state.h"
+#include "app/command_context.h"
+#include "app/desk.h"
+#include "app/program_state.h"
 
 namespace plenovia {
 
 namespace {
 
-int ActiveKind(const TPlenoviaWnd& frame) {
-  const TMouseWnd* active = frame.GetActiveChild();
+int ActiveKind(const CommandContext& context) {
+  const Document* active = context.desk.Active();
   return active != nullptr ? active->GetWindowKind() : 0;
 }
 
 }  // namespace
 
-bool IsIdle(const TPlenoviaWnd& frame) {
-  return !frame.IsBusy();
+bool IsIdle(const CommandContext& context) {
+  return !context.busy.IsBusy();
 }
-bool IsBusy(const TPlenoviaWnd& frame) {
-  return frame.IsBusy();
-}
-
-bool CanSave(const TPlenoviaWnd& frame) {
-  if (frame.IsBusy()) return false;
-  if (const TSirdsWnd* picture = frame.ActivePicture()) return !picture->IsSaved();
-  const auto* map = qobject_cast<TMapWindow*>(frame.GetActiveChild());
-  return map != nullptr && !map->IsSaved();
+bool IsBusy(const CommandContext& context) {
+  return context.busy.IsBusy();
 }
 
-bool CanWorkOnPicture(const TPlenoviaWnd& frame) {
-  return !frame.IsBusy() && ActiveKind(frame) == kPictureWindow;
+bool CanSave(const CommandContext& context) {
+  const Document* active = context.desk.Active();
+  return IsIdle(context) && active != nullptr && active->CanSave();
 }
 
-bool CanCopy(const TPlenoviaWnd& frame) {
-  const int kind = ActiveKind(frame);
-  return !frame.IsBusy() && (kind == kPictureWindow || kind == kColourTableWindow);
+bool HasPicture(const CommandContext& context) {
+  return IsIdle(context) && ActiveKind(context) == kPictureWindow;
 }
 
-bool CanPaste(const TPlenoviaWnd& frame) {
-  return !frame.IsBusy() && ClipboardHasPicture();
+bool HasColours(const CommandContext& context) {
+  const int kind = ActiveKind(context);
+  return IsIdle(context) && (kind == kPictureWindow || kind == kColourTableWindow);
 }
 
-bool CanZoomIn(const TPlenoviaWnd& frame) {
-  return CanWorkOnPicture(frame) && frame.ActivePicture()->CanZoomIn();
+bool CanPaste(const CommandContext& context) {
+  return IsIdle(context) && context.state.clipboard.HasPicture();
 }
 
-bool CanZoomOut(const TPlenoviaWnd& frame) {
-  return CanWorkOnPicture(frame) && frame.ActivePicture()->CanZoomOut();
+bool CanMakeSirds(const CommandContext& context) {
+  const int kind = ActiveKind(context);
+  return IsIdle(context) && (kind == kPictureWindow || kind == kDepthMapWindow);
 }
 
-bool CanMakeSirds(const TPlenoviaWnd& frame) {
-  const int kind = ActiveKind(frame);
-  return !frame.IsBusy() && (kind == kPictureWindow || kind == kDepthMapWindow);
-}
-
-bool HasWindows(const TPlenoviaWnd& frame) {
-  return !frame.Area()->subWindowList().isEmpty();
+bool HasWindows(const CommandContext& context) {
+  return !context.desk.Area().subWindowList().isEmpty();
 }
 
 }  // namespace plenovia

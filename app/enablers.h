@@ -3,18 +3,17 @@
 
 namespace plenovia {
 
-class TPlenoviaWnd;
+struct CommandContext;
 
-bool IsIdle(const TPlenoviaWnd& frame);
-bool IsBusy(const TPlenoviaWnd& frame);
-bool CanSave(const TPlenoviaWnd& frame);
-bool CanWorkOnPicture(const TPlenoviaWnd& frame);
+bool IsIdle(const CommandContext& context);
+bool IsBusy(const CommandContext& context);
+bool CanSave(const CommandContext& context);
+// The active window is a picture's.
+bool HasPicture(const CommandContext& context);
 // A picture or a colour table is active.
-bool CanCopy(const TPlenoviaWnd& frame);
-bool CanPaste(const TPlenoviaWnd& frame);
-bool CanZoomIn(const TPlenoviaWnd& frame);
-bool CanZoomOut(const TPlenoviaWnd& frame);
-bool CanMakeSirds(const TPlenoviaWnd& frame);
-bool HasWindows(const TPlenoviaWnd& frame);
+bool HasColours(const CommandContext& context);
+bool CanPaste(const CommandContext& context);
+bool CanMakeSirds(const CommandContext& context);
+bool HasWindows(const CommandContext& context);
 
 }  // namespace plenovia

@@ -3,11 +3,10 @@
 
 namespace plenovia {
 
-class TPlenoviaWnd;
+struct CommandContext;
 
-void CmCopy(TPlenoviaWnd& frame);
-void CmPaste(TPlenoviaWnd& frame);
-void CmPrint(TPlenoviaWnd& frame);
-void CmPrinterSetup(TPlenoviaWnd& frame);
+void CmPaste(CommandContext& context);
+void CmPrint(CommandContext& context);
+void CmPrinterSetup(CommandContext& context);
 
 }  // namespace plenovia

@@ -1,15 +1,22 @@
 #include "app/file_commands.h"
 
-#include <QPointer>
+#include <QFileInfo>
 #include <memory>
 #include <utility>
 
-#include "app/plenovia_wnd.h"
+#include "app/command_context.h"
+#include "app/desk.h"
+#include "app/open_preview.h"
+#include "app/program_state.h"
+#include "app/sample_files.h"
 #include "app/status_bar.h"
 #include "codec/graph_io.h"
-#include "codec/graphic_format.h"
+#include "codec/picture_format.h"
+#include "depthmap/depth_map_file.h"
 #include "depthmap/ui/map_window.h"
 #include "engine/ui/sirds_wnd.h"
+#include "platform/file_io.h"
+#include "platform/ui/busy_cursor.h"
 #include "platform/ui/file_dialogs.h"
 #include "platform/ui/message_box.h"
 #include "platform/ui/private_message.h"
@@ -23,173 +30,114 @@ namespace {
 constexpr QSize kWindowBeforePicture(200, 20);
 constexpr int kMapSideBeforeFile = 400;
 
-QString OpenFilters() {
-  return QStringLiteral(
-      "Bitmap Files (*.BMP)|*.bmp|PCX Files (*.PCX)|*.pcx|GIF Files (*.GIF)|*.gif|"
-      "Depth Map File (*.RDS)|*.rds|PNG Files (*.PNG)|*.png|"
-      "All Pictures and Depth Maps|*.bmp *.pcx *.gif *.jpg *.jpeg *.rds *.png|");
+GraphicFormat LastFormat(const CommandContext& context) {
+  return static_cast<GraphicFormat>(context.state.lastFormat);
 }
 
-QString SaveFilters() {
-  return QStringLiteral(
-      "Bitmap Files (*.BMP)|*.bmp|PCX Files (*.PCX)|*.pcx|GIF Files (*.GIF)|*.gif|"
-      "JPEG Files (*.JPG)|*.jpg|Depth Map File (*.RDS)|*.rds|PNG Files (*.PNG)|*.png|");
+// "Error Opening ...", and below it the file and the reason.
+void ShowReason(CommandContext& context, const QString& what, const QString& path,
+                const Error& error) {
+  const QString text = what + QStringLiteral("\r") + BaseNameTitle(path) + QStringLiteral(": ") +
+                       ToQString(error.message);
+  ShowMessage(&context.frame, text, Commands::tr("Error"), MessageIcon::kInformation);
+  context.status.SetMessage(QString());
 }
 
-GraphicFormat LastFormat(const TPlenoviaWnd& frame) {
-  return static_cast<GraphicFormat>(frame.LastFormat());
+// The document is open and is what its file holds; `damage` is empty when the file is whole.
+void Opened(CommandContext& context, Document& document, const QString& path,
+            const QString& damage) {
+  document.SetFile(path);
+  context.status.SetMessage(QString());
+  context.state.NoteFile(path);
+  SendPrivateMessage(&context.frame, PrivateMessage(WM_UPDATESTATUS));
+  if (damage.isEmpty()) return;
+  context.status.ShowNote(
+      Commands::tr("%1: %2 What could be read is shown.").arg(BaseNameTitle(path), damage));
 }
 
-// Formats beyond those that have a text of their own are written as BMP files are.
-QString WritingText(GraphicFormat format) {
-  switch (format) {
-    case GraphicFormat::kPcx:
-    case GraphicFormat::kGif:
-    case GraphicFormat::kJpeg:
-    case GraphicFormat::kPng:
-      return TPlenoviaWnd::tr("Writing %1 File").arg(ToQString(FormatName(format)));
-    default:
-      return TPlenoviaWnd::tr("Writing BMP File");
-  }
+bool IsDepthMap(const QString& path, const Result<ByteBuffer>& file) {
+  return (file && LooksLikeDepthMap(*file)) ||
+         path.contains(QStringLiteral(".rds"), Qt::CaseInsensitive);
 }
 
-QString ReadingText(GraphicFormat format) {
-  switch (format) {
-    case GraphicFormat::kPcx:
-    case GraphicFormat::kGif:
-    case GraphicFormat::kPng:
-      return TPlenoviaWnd::tr("Reading %1 File").arg(ToQString(FormatName(format)));
-    case GraphicFormat::kJpeg:
-      return {};
-    default:
-      return TPlenoviaWnd::tr("Reading BMP File");
-  }
-}
-
-// The busy cursor for as long as it lives.
-class BusyFrame {
- public:
-  explicit BusyFrame(TPlenoviaWnd& frame) : frame_(frame) { frame_.SetBusyCursor(true); }
-  BusyFrame(const BusyFrame&) = delete;
-  BusyFrame& operator=(const BusyFrame&) = delete;
-  ~BusyFrame() { frame_.SetBusyCursor(false); }
-
- private:
-  TPlenoviaWnd& frame_;
-};
-
-void ShowReason(TPlenoviaWnd& frame, const QString& what, const Error& error) {
-  ShowMessage(&frame, what, TPlenoviaWnd::tr("Error"), MessageIcon::kInformation);
-  frame.Status().SetMessage(ToQString(error.message));
-}
-
-void SavePicture(TPlenoviaWnd& frame, TSirdsWnd& window, const QString& path) {
-  const auto picture = window.Picture();
-  if (!picture) return;
-  TGraphIO codec;
-  codec.SetGraphicFormat(frame.LastFormat());
-  frame.Status().SetMessage(WritingText(LastFormat(frame)));
+void ShowPicture(CommandContext& context, const QString& path, const Result<ByteBuffer>& file) {
+  const GraphicFormat format = file ? DetectFormat(*file) : GraphicFormat::kUnknown;
+  context.state.lastFormat = static_cast<int>(format);
+  const QString name = ToQString(NameWhileReading(format));
+  if (!name.isEmpty()) context.status.SetMessage(Commands::tr("Reading %1 File").arg(name));
   ClearUpperVectorHalves();
-  const Result<void> written = codec.Write_File(ToPath(path), *picture);
-  window.SetSaved(written.has_value());
-  if (written) window.SetTitle(path);
-  frame.Status().SetMessage(written ? QString() : ToQString(written.error().message));
+  auto picture =
+      file.and_then([](const ByteBuffer& bytes) { return DecodePicture(std::span(bytes)); });
+  if (!picture) {
+    ShowReason(context, Commands::tr("Error Opening the Bitmap file"), path, picture.error());
+    return;
+  }
+  auto* window = new TSirdsWnd(&context.desk.Area(), path, &context.frame, nullptr,
+                               kWindowBeforePicture, &context.state.settings);
+  context.desk.Adopt(*window);
+  const QString damage = ToQString(picture->damage);
+  window->SetImage(std::make_shared<const IndexedImage>(std::move(*picture)));
+  window->SetSaved(true);
+  Opened(context, *window, path, damage);
 }
 
-void SaveMap(TPlenoviaWnd& frame, TMapWindow& window, const QString& path) {
-  frame.Status().SetMessage(TPlenoviaWnd::tr("Writing Depth Map File"));
-  const Result<void> written = window.WriteDepthMap(path);
-  frame.Status().SetMessage(written ? QString() : ToQString(written.error().message));
+void ShowDepthMap(CommandContext& context, const QString& path, const Result<ByteBuffer>& file) {
+  context.state.lastFormat = static_cast<int>(GraphicFormat::kDepthMap);
+  context.status.SetMessage(Commands::tr("Reading Depth Map File"));
+  auto* window = new TMapWindow(&context.desk.Area(), path, kMapSideBeforeFile, kMapSideBeforeFile,
+                                &context.frame);
+  const auto read = file.and_then(
+      [&](const ByteBuffer& bytes) { return window->ReadDepthMap(std::span(bytes)); });
+  if (!read) {
+    delete window;
+    ShowReason(context, Commands::tr("Error Opening the Depth Map file"), path, read.error());
+    return;
+  }
+  context.desk.Adopt(*window);
+  const bool damaged = *read == DepthMapState::kDamaged;
+  Opened(context, *window, path,
+         damaged ? Commands::tr("The depth map is damaged or cut off.") : QString());
 }
 
 }  // namespace
 
-void CmFileNew(TPlenoviaWnd& frame) {
-  const TSirdsSettings& settings = frame.Settings();
-  frame.Adopt(
-      *new TMapWindow(frame.Area(), TPlenoviaWnd::tr("untitled"), settings.w, settings.h, &frame));
+void CmFileNew(CommandContext& context) {
+  const TSirdsSettings& settings = context.state.settings;
+  context.desk.Adopt(*new TMapWindow(&context.desk.Area(), Commands::tr("untitled"), settings.w,
+                                     settings.h, &context.frame));
 }
 
-void CmFileOpen(TPlenoviaWnd& frame) {
-  frame.Status().ClearHint();
+void CmFileOpen(CommandContext& context) {
+  context.status.ClearHint();
   FileQuestion question;
-  question.title = TPlenoviaWnd::tr("Open");
-  question.filters = OpenFilters();
-  question.preselected = frame.LastFormat();
-  question.defaultExtension = ToQString(OpenExtension(LastFormat(frame)));
-  const auto path = AskOpenFile(&frame, question);
-  if (path) OpenByName(frame, *path);
+  question.title = Commands::tr("Open");
+  question.filters = ToQString(OpenFileTypes());
+  question.preselected = static_cast<int>(FilterEntries(question.filters).size());
+  question.defaultExtension = ToQString(OpenExtension(LastFormat(context)));
+  question.folder = context.state.openFolder;
+  question.place = SampleFolder();
+  question.extend = &AddOpenPreview;
+  const auto path = AskOpenFile(&context.frame, question);
+  if (!path) return;
+  context.state.openFolder = QFileInfo(*path).absolutePath();
+  OpenByName(context, *path);
 }
 
-void OpenByName(TPlenoviaWnd& frame, const QString& path) {
-  const BusyFrame busy(frame);
-  frame.RepaintAll();
-  if (path.contains(QStringLiteral(".rds"), Qt::CaseInsensitive)) {
-    OpenDepthMap(frame, path);
-  } else {
-    OpenPicture(frame, path);
-  }
+void OpenByName(CommandContext& context, const QString& path) {
+  const BusyCursor busy(context.frame);
+  RepaintAll(context);
+  const auto file = ReadFile(ToPath(path));
+  IsDepthMap(path, file) ? ShowDepthMap(context, path, file) : ShowPicture(context, path, file);
 }
 
-void OpenPicture(TPlenoviaWnd& frame, const QString& path) {
-  frame.SetLastFormat(TGraphIO::GetGraphicFormat(ToPath(path)));
-  const QString text = ReadingText(LastFormat(frame));
-  if (!text.isEmpty()) frame.Status().SetMessage(text);
-  ClearUpperVectorHalves();
-  TGraphIO codec;
-  auto picture = codec.Read_File(ToPath(path));
-  if (!picture) {
-    ShowReason(frame, TPlenoviaWnd::tr("Error Opening the Bitmap file"), picture.error());
-    return;
-  }
-  auto* window =
-      new TSirdsWnd(frame.Area(), path, &frame, nullptr, kWindowBeforePicture, &frame.Settings());
-  frame.Adopt(*window);
-  window->SetImage(std::make_shared<const IndexedImage>(std::move(*picture)));
-  window->SetSaved(true);
-  frame.Status().SetMessage(QString());
-  SendPrivateMessage(&frame, PrivateMessage(WM_UPDATESTATUS));
+void OpenPicture(CommandContext& context, const QString& path) {
+  const auto file = ReadFile(ToPath(path));
+  const bool map = file && LooksLikeDepthMap(*file);
+  map ? ShowDepthMap(context, path, file) : ShowPicture(context, path, file);
 }
 
-void OpenDepthMap(TPlenoviaWnd& frame, const QString& path) {
-  frame.SetLastFormat(static_cast<int>(GraphicFormat::kDepthMap));
-  frame.Status().SetMessage(TPlenoviaWnd::tr("Reading Depth Map File"));
-  auto* window = new TMapWindow(frame.Area(), path, kMapSideBeforeFile, kMapSideBeforeFile, &frame);
-  const auto read = window->ReadDepthMap(path);
-  if (!read) {
-    delete window;
-    ShowReason(frame, TPlenoviaWnd::tr("Error Opening the Depth Map file"), read.error());
-    return;
-  }
-  frame.Adopt(*window);
-  frame.Status().SetMessage(QString());
-  SendPrivateMessage(&frame, PrivateMessage(WM_UPDATESTATUS));
-  if (*read == DepthMapState::kDamaged) {
-    ShowMessage(&frame,
-                TPlenoviaWnd::tr("The file is damaged.\rWhat could be read of it is shown."),
-                TPlenoviaWnd::tr("Note"), MessageIcon::kExclamation);
-  }
-}
-
-void CmFileSave(TPlenoviaWnd& frame) {
-  frame.Status().ClearHint();
-  const QPointer<TMouseWnd> active = frame.GetActiveChild();
-  if (active && active->GetWindowKind() != kColourTableWindow) {
-    FileQuestion question;
-    question.title = TPlenoviaWnd::tr("Save");
-    question.filters = SaveFilters();
-    question.preselected = frame.LastFormat();
-    question.defaultExtension = ToQString(SaveExtension(LastFormat(frame)));
-    const auto path = AskSaveFile(&frame, question);
-    if (path && active) {
-      frame.RepaintAll();
-      const BusyFrame busy(frame);
-      frame.SetLastFormat(static_cast<int>(FormatOfPath(path->toStdString())));
-      if (auto* picture = qobject_cast<TSirdsWnd*>(active)) SavePicture(frame, *picture, *path);
-      if (auto* map = qobject_cast<TMapWindow*>(active)) SaveMap(frame, *map, *path);
-    }
-  }
-  frame.RepaintAll();
+void OpenDepthMap(CommandContext& context, const QString& path) {
+  ShowDepthMap(context, path, ReadFile(ToPath(path)));
 }
 
 }  // namespace plenovia

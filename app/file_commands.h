@@ -1,23 +1,21 @@
-// Opening and saving files.
+// New documents, and opening files.
 #pragma once
 
 #include <QString>
 
 namespace plenovia {
 
-class TPlenoviaWnd;
+struct CommandContext;
 
 // A new depth map of the size that the settings name.
-void CmFileNew(TPlenoviaWnd& frame);
-void CmFileOpen(TPlenoviaWnd& frame);
-// Saves the active picture or depth map. A write that fails leaves the file that was there, and
-// the status bar says why.
-void CmFileSave(TPlenoviaWnd& frame);
+void CmFileNew(CommandContext& context);
+void CmFileOpen(CommandContext& context);
 
-// Open the file in a window of its own, or show a message why not.
-void OpenPicture(TPlenoviaWnd& frame, const QString& path);
-void OpenDepthMap(TPlenoviaWnd& frame, const QString& path);
-// As a depth map when the path contains ".rds" anywhere, else as a picture.
-void OpenByName(TPlenoviaWnd& frame, const QString& path);
+// Open the file in a window of its own, or show a message why not. Of a damaged file what can be
+// read is shown, and the status line says so. A depth map is opened as one whatever its name.
+void OpenPicture(CommandContext& context, const QString& path);
+void OpenDepthMap(CommandContext& context, const QString& path);
+// As a depth map when it is one or the path contains ".rds" anywhere, else as a picture.
+void OpenByName(CommandContext& context, const QString& path);
 
 }  // namespace plenovia

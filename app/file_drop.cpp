@@ -5,10 +5,7 @@
 #include <QFileInfo>
 #include <QSysInfo>
 #include <QUrl>
-
-#include "app/command_table.h"
-#include "app/file_commands.h"
-#include "app/plenovia_wnd.h"
+#include <utility>
 
 namespace plenovia {
 
@@ -24,13 +21,15 @@ QStringList DroppedFiles(const QMimeData& data) {
   return files;
 }
 
-FileDrop::FileDrop(TPlenoviaWnd& frame) : QObject(&frame), frame_(frame) {
+FileDrop::FileDrop(QWidget& frame, std::function<bool()> mayOpen,
+                   std::function<void(const QString&)> open)
+    : QObject(&frame), mayOpen_(std::move(mayOpen)), open_(std::move(open)) {
   frame.setAcceptDrops(true);
   frame.installEventFilter(this);
 }
 
 bool FileDrop::MayOpen() const {
-  return frame_.Commands().IsAvailable(kCmOpen) && QApplication::activeModalWidget() == nullptr;
+  return mayOpen_() && QApplication::activeModalWidget() == nullptr;
 }
 
 bool FileDrop::eventFilter(QObject* /*watched*/, QEvent* event) {
@@ -49,7 +48,7 @@ bool FileDrop::eventFilter(QObject* /*watched*/, QEvent* event) {
     // Later, as the other program waits for the end of the drop, and a message may come up.
     const auto open = [this, files] {
       for (const QString& file : files) {
-        if (MayOpen()) OpenByName(frame_, file);
+        if (MayOpen()) open_(file);
       }
     };
     QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);

@@ -4,21 +4,21 @@
 #include <QMimeData>
 #include <QObject>
 #include <QStringList>
+#include <QWidget>
+#include <functional>
 
 namespace plenovia {
-
-class TPlenoviaWnd;
 
 // The paths of the files of this machine among what is dragged; folders and what lies elsewhere are
 // left out.
 QStringList DroppedFiles(const QMimeData& data);
 
-// Lets files be dropped anywhere on the frame and its document windows, and opens each as the
-// command Open would. Refuses them while that command is gray and while a dialog waits.
+// Lets files be dropped anywhere on the frame and its document windows, and opens each. Refuses
+// them while `mayOpen` says no and while a dialog waits.
 class FileDrop : public QObject {
  public:
   // Belongs to the frame.
-  explicit FileDrop(TPlenoviaWnd& frame);
+  FileDrop(QWidget& frame, std::function<bool()> mayOpen, std::function<void(const QString&)> open);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -26,7 +26,8 @@ class FileDrop : public QObject {
  private:
   bool MayOpen() const;
 
-  TPlenoviaWnd& frame_;
+  std::function<bool()> mayOpen_;
+  std::function<void(const QString&)> open_;
 };
 
 }  // namespace plenovia

@@ -4,9 +4,9 @@
 namespace plenovia {
 
 class PrivateMessage;
-class TPlenoviaWnd;
+struct CommandContext;
 
 // Handles the message and sets its result. Numbers that the frame does not know are ignored.
-void HandlePrivateMessage(TPlenoviaWnd& frame, PrivateMessage& message);
+void HandlePrivateMessage(CommandContext& context, PrivateMessage& message);
 
 }  // namespace plenovia

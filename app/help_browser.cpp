@@ -5,6 +5,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include "app/help_pages.h"
 #include "platform/ui/picture_painting.h"
 
 namespace plenovia {
@@ -66,6 +67,11 @@ void HelpBrowser::MarkWords(const QStringList& words) {
   }
   setExtraSelections(marks);
   if (!first.isNull()) setTextCursor(first);
+}
+
+QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
+  return type == QTextDocument::HtmlResource ? QVariant(HelpHtml(name))
+                                             : QTextBrowser::loadResource(type, name);
 }
 
 void HelpBrowser::Follow(const QUrl& link) {

@@ -21,6 +21,7 @@ class HelpBrowser : public QTextBrowser, public QTextObjectInterface {
   // Marks the words on the page that is shown and scrolls to the first of them.
   void MarkWords(const QStringList& words);
 
+  QVariant loadResource(int type, const QUrl& name) override;
   QSizeF intrinsicSize(QTextDocument* document, int position, const QTextFormat& format) override;
   void drawObject(QPainter* painter, const QRectF& area, QTextDocument* document, int position,
                   const QTextFormat& format) override;

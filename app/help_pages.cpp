@@ -1,10 +1,14 @@
 #include "app/help_pages.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QKeySequence>
 #include <QRegularExpression>
 #include <QTextDocument>
 #include <algorithm>
+
+#include "app/command_table.h"
 
 namespace plenovia {
 
@@ -19,6 +23,21 @@ QStringList Keywords(const QString& html) {
   return keywords;
 }
 
+QString TableOfKeys() {
+  QString rows;
+  for (const CommandRow& row : CommandTable()) {
+    if (row.keys == nullptr) continue;
+    QStringList keys;
+    for (const auto& key : QKeySequence::listFromString(QString::fromLatin1(row.keys))) {
+      keys << key.toString(QKeySequence::NativeText).toHtmlEscaped();
+    }
+    const QString name = QCoreApplication::translate("Commands", row.text).remove(u'&');
+    rows += QStringLiteral("<tr><td><b>%1</b>&nbsp;&nbsp;</td><td>%2</td></tr>\n")
+                .arg(keys.join(QStringLiteral(", ")), name.toHtmlEscaped());
+  }
+  return QStringLiteral("<table>\n%1</table>").arg(rows);
+}
+
 bool HoldsAll(const QString& text, const QStringList& words) {
   return std::all_of(words.begin(), words.end(),
                      [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
@@ -30,13 +49,17 @@ QUrl HelpAddress(const QString& fileName) {
   return QUrl(QStringLiteral("qrc:/help/") + fileName);
 }
 
+QString HelpHtml(const QUrl& address) {
+  QFile file(u':' + address.path());
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  return QString::fromUtf8(file.readAll()).replace(QStringLiteral("<!--keys-->"), TableOfKeys());
+}
+
 std::vector<HelpPage> LoadHelpPages() {
   const QDir folder(QStringLiteral(":/help"));
   std::vector<HelpPage> pages;
   for (const QString& name : folder.entryList({QStringLiteral("*.html")})) {
-    QFile file(folder.filePath(name));
-    if (!file.open(QIODevice::ReadOnly)) continue;
-    const QString html = QString::fromUtf8(file.readAll());
+    const QString html = HelpHtml(HelpAddress(name));
     QTextDocument document;
     document.setHtml(html);
     pages.push_back({HelpAddress(name), document.metaInformation(QTextDocument::DocumentTitle),

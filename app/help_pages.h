@@ -17,6 +17,9 @@ struct HelpPage {
 
 QUrl HelpAddress(const QString& fileName);
 
+// The page at an address of the help, with the table of keys filled in; empty when there is none.
+QString HelpHtml(const QUrl& address);
+
 // All pages that the program carries, in the order of their titles.
 std::vector<HelpPage> LoadHelpPages();
 

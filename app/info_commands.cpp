@@ -5,8 +5,9 @@
 #include <cstdint>
 
 #include "app/about_dialog.h"
+#include "app/busy_state.h"
+#include "app/command_context.h"
 #include "app/help_window.h"
-#include "app/plenovia_wnd.h"
 #include "codec/graph_io.h"
 #include "figures/sirdmath.h"
 #include "platform/ui/message_box.h"
@@ -15,47 +16,47 @@
 
 namespace plenovia {
 
-void CmHelpIndex(TPlenoviaWnd& frame) {
-  frame.Help().ShowIndex();
+void CmHelpIndex(CommandContext& context) {
+  context.help().ShowIndex();
 }
 
-void CmHelpSirds(TPlenoviaWnd& frame) {
-  frame.Help().ShowTopic(QStringLiteral("Plenovia Overview"));
+void CmHelpSirds(CommandContext& context) {
+  context.help().ShowTopic(QStringLiteral("Plenovia Overview"));
 }
 
-void CmAbout(TPlenoviaWnd& frame) {
-  TAboutDialog(&frame).exec();
+void CmAbout(CommandContext& context) {
+  TAboutDialog(&context.frame).exec();
 }
 
-void CmGraphicsLib(TPlenoviaWnd& frame) {
-  ShowMessage(&frame, ToQString(TGraphIO::GetVersionString()), TPlenoviaWnd::tr("Graphics Library"),
-              MessageIcon::kInformation);
+void CmGraphicsLib(CommandContext& context) {
+  ShowMessage(&context.frame, ToQString(TGraphIO::GetVersionString()),
+              Commands::tr("Graphics Library"), MessageIcon::kInformation);
 }
 
-void CmVersion(TPlenoviaWnd& frame) {
+void CmVersion(CommandContext& context) {
   std::array<char, 20> version{};
   _GetLibVersion(version.data());
-  ShowMessage(&frame,
-              TPlenoviaWnd::tr("Math Library Version %1").arg(QString::fromLatin1(version.data())),
+  ShowMessage(&context.frame,
+              Commands::tr("Math Library Version %1").arg(QString::fromLatin1(version.data())),
               QStringLiteral("Plenovia"), MessageIcon::kInformation);
 }
 
-void CmVideoInformation(TPlenoviaWnd& frame) {
-  const qulonglong colours = std::uint64_t{1} << frame.screen()->depth();
-  ShowMessage(&frame,
-              TPlenoviaWnd::tr("The current video driver is\rset for %1 colors.\r Plenovia may not "
-                               "work with some video drivers with more than 256 colors.")
+void CmVideoInformation(CommandContext& context) {
+  const qulonglong colours = std::uint64_t{1} << context.frame.screen()->depth();
+  ShowMessage(&context.frame,
+              Commands::tr("The current video driver is\rset for %1 colors.\r Plenovia may not "
+                           "work with some video drivers with more than 256 colors.")
                   .arg(colours),
-              TPlenoviaWnd::tr("Video Information"), MessageIcon::kInformation);
+              Commands::tr("Video Information"), MessageIcon::kInformation);
 }
 
-void CmStopProcess(TPlenoviaWnd& frame) {
-  PostPrivateMessage(&frame, WM_STOPPROCESS);
-  frame.SetProcessState(true);
+void CmStopProcess(CommandContext& context) {
+  PostPrivateMessage(&context.frame, WM_STOPPROCESS);
+  context.busy.SetProcessState(true);
 }
 
-void CmExit(TPlenoviaWnd& frame) {
-  frame.close();
+void CmExit(CommandContext& context) {
+  context.frame.close();
 }
 
 }  // namespace plenovia

@@ -3,15 +3,15 @@
 
 namespace plenovia {
 
-class TPlenoviaWnd;
+struct CommandContext;
 
-void CmHelpIndex(TPlenoviaWnd& frame);
-void CmHelpSirds(TPlenoviaWnd& frame);
-void CmAbout(TPlenoviaWnd& frame);
-void CmGraphicsLib(TPlenoviaWnd& frame);
-void CmVersion(TPlenoviaWnd& frame);
-void CmVideoInformation(TPlenoviaWnd& frame);
-void CmStopProcess(TPlenoviaWnd& frame);
-void CmExit(TPlenoviaWnd& frame);
+void CmHelpIndex(CommandContext& context);
+void CmHelpSirds(CommandContext& context);
+void CmAbout(CommandContext& context);
+void CmGraphicsLib(CommandContext& context);
+void CmVersion(CommandContext& context);
+void CmVideoInformation(CommandContext& context);
+void CmStopProcess(CommandContext& context);
+void CmExit(CommandContext& context);
 
 }  // namespace plenovia

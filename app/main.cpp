@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
   plenovia::TPlenoviaApp plenovia;
   plenovia.InitMainWindow();
   for (const QString& file : QCoreApplication::arguments().mid(1)) {
-    plenovia::OpenByName(plenovia.Frame(), QFileInfo(file).absoluteFilePath());
+    plenovia::OpenByName(plenovia.Frame().Context(), QFileInfo(file).absoluteFilePath());
   }
   return QApplication::exec();
 }

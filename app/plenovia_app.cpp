@@ -4,6 +4,7 @@
 #include "app/frame_placement.h"
 #include "app/settings_path.h"
 #include "images/ui/welcome.h"
+#include "platform/ui/resource_pictures.h"
 
 namespace plenovia {
 
@@ -15,7 +16,7 @@ void TPlenoviaApp::InitMainWindow() {
   welcome->setAttribute(Qt::WA_DeleteOnClose);
   welcome->ShowNow();
   frame_ = std::make_unique<TPlenoviaWnd>(settings, welcome);
-  frame_->SetBusyCursor(true);
+  ShowBusyCursor(*frame_, true);
   const int location = settings.GetInt("Tools", "CntlBar", 0);
   frame_->InsertBars(location < 0 || location > 2 ? 0 : location);
   frame_->Commands().SetApplicationCommand(kCmRelocateBar, [this] { CmRelocateBar(); });

@@ -1,36 +1,35 @@
 #include "app/plenovia_wnd.h"
 
-#include <QClipboard>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusTipEvent>
-#include <QStyle>
 #include <array>
+#include <chrono>
+#include <string>
 #include <utility>
 
 #include "app/button_bar.h"
 #include "app/command_bars.h"
 #include "app/command_table.h"
+#include "app/file_commands.h"
 #include "app/file_drop.h"
 #include "app/frame_messages.h"
 #include "app/frame_placement.h"
 #include "app/help_window.h"
 #include "app/pattern_face.h"
+#include "app/recent_menu.h"
 #include "app/settings_path.h"
+#include "app/start_page.h"
 #include "app/status_bar.h"
-#include "depthmap/ui/map_window.h"
-#include "engine/ui/sirds_wnd.h"
 #include "figures/sirdmath.h"
 #include "images/pattern_files.h"
-#include "images/ui/color_wnd.h"
 #include "images/ui/figure_titles.h"
 #include "images/ui/popup_hint.h"
-#include "images/ui/printer_int.h"
 #include "images/ui/welcome.h"
 #include "platform/ui/private_message.h"
 #include "platform/ui/resource_pictures.h"
+#include "platform/ui/text.h"
 
 namespace plenovia {
 
@@ -38,37 +37,67 @@ namespace {
 
 constexpr int kMainBarPicture = 26;
 constexpr int kPalettePicture = 20;
-constexpr int kCascadedWindows = 8;  // before the next one is at the top left again
+constexpr std::chrono::milliseconds kSettingsDelay{300};  // between a change and its writing
 
 }  // namespace
 
 TPlenoviaWnd::TPlenoviaWnd(const ProfileFile& settings, TWelcome* welcome)
-    : area_(new QMdiArea(this)), commands_(new CommandRouter(*this)), welcome_(welcome) {
+    : state_(new ProgramState(this)),
+      busy_(new BusyState(this)),
+      desk_(new Desk(this)),
+      status_(new TCStatusBar(this)),
+      hint_(new PopupHint(this, [this](int command) { return commands_->Hint(command); })),
+      context_{*this,
+               *desk_,
+               *state_,
+               *busy_,
+               *status_,
+               *hint_,
+               [this]() -> HelpWindow& { return Help(); },
+               [this](int command) {
+                 QMetaObject::invokeMethod(
+                     this, [this, command] { commands_->Run(command); }, Qt::QueuedConnection);
+               }},
+      commands_(new CommandRouter(this, context_)),
+      welcome_(welcome) {
   setObjectName(QStringLiteral("frame"));
   setWindowTitle(QStringLiteral("Plenovia"));
   setWindowIcon(NamedIcon(QStringLiteral("i1")));
-  area_->setObjectName(QStringLiteral("documents"));
-  area_->setBackground(QColor(192, 192, 192));
-  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
-  setCentralWidget(area_);
-  connect(area_, &QMdiArea::subWindowActivated, commands_, &CommandRouter::RefreshSoon);
-  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, commands_,
-          &CommandRouter::RefreshSoon);
+  setCentralWidget(&desk_->Area());
+  connect(desk_, &Desk::StateChanged, commands_, &CommandRouter::RefreshSoon);
+  connect(&state_->clipboard, &ClipboardPictures::Changed, commands_, &CommandRouter::RefreshSoon);
+  connect(state_, &ProgramState::PatternChanged, this, &TPlenoviaWnd::UpdatePatternButton);
+  settingsDelay_.setSingleShot(true);
+  settingsDelay_.setInterval(kSettingsDelay);
+  connect(&settingsDelay_, &QTimer::timeout, this, &TPlenoviaWnd::SaveSettings);
+  connect(commands_, &CommandRouter::CommandDone, &settingsDelay_, qOverload<>(&QTimer::start));
+  connect(state_, &ProgramState::FilesChanged, &settingsDelay_, qOverload<>(&QTimer::start));
+  connect(state_, &ProgramState::SettingsChanged, &settingsDelay_, qOverload<>(&QTimer::start));
   commands_->BuildMenus(*menuBar());
-  if (LoadStartsMaximised(settings)) {
-    setWindowState(Qt::WindowMaximized);
-  } else {
-    PlaceFrame(*this, LoadFrameRect(settings));
-  }
-  new FileDrop(*this);
-  hint_ = new PopupHint(this, [this](int command) { return commands_->Hint(command); });
+  AddRecentMenu(*menuBar(), commands_->Action(kCmOpen), context_);
+  connect(busy_, &BusyState::Changed, this, &TPlenoviaWnd::ShowBusyState);
+  connect(busy_, &BusyState::AllEnded, this, [this] {
+    if (!leaves_) return;
+    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+  });
+  // Windows that were opened before lie on the smaller desk too.
+  PlaceFrame(*this, LoadFrameRect(settings), [this] {
+    for (QMdiSubWindow* window : desk_->Area().subWindowList()) {
+      auto* document = qobject_cast<Document*>(window);
+      if (document == nullptr || document->isMaximized() || document->isMinimized()) continue;
+      document->PlaceAt(document->geometry());
+    }
+  });
+  if (LoadStartsMaximised(settings)) setWindowState(Qt::WindowMaximized);
+  new FileDrop(
+      *this, [this] { return commands_->IsAvailable(kCmOpen); },
+      [this](const QString& path) { OpenByName(context_, path); });
+  new StartPage(context_);
 }
 
 TPlenoviaWnd::~TPlenoviaWnd() {
   // Document windows still talk to the frame while they go.
-  delete area_;
+  delete &desk_->Area();
   delete help_;
   _UnloadFigureTitles();
 }
@@ -84,8 +113,8 @@ void TPlenoviaWnd::InsertBars(int location) {
   toolsPalette_->setWindowTitle(tr("Tools"));
   FillToolsPalette(*toolsPalette_, action);
   PlaceMainBar(location);
-  status_ = new TCStatusBar(this);
   setStatusBar(status_);
+  connect(desk_, &Desk::ToolChanged, toolsPalette_, &ButtonBar::PressButton);
   for (ButtonBar* bar : {mainBar_, toolsPalette_}) {
     connect(bar, &ButtonBar::HintChanged, this,
             [this](const QString& hint) { status_->SetHint(hint); });
@@ -105,18 +134,18 @@ void TPlenoviaWnd::PlaceMainBar(int location) {
 }
 
 void TPlenoviaWnd::SetupWindow(const ProfileFile& settings) {
-  SetBusyCursor(true);
+  ShowBusyCursor(*this, true);
   BuildMathMenu();
   BuildWindowList();
   commands_->Refresh();
   show();
   LoadSettings(settings);
-  printer_ = std::make_unique<TPrinterInt>(QStringLiteral("PLENOVIA.EXE"));
+  state_->printer = std::make_unique<TPrinterInt>(QStringLiteral("PLENOVIA.EXE"));
   if (welcome_) welcome_->CloseAfterDelay();
   UpdatePatternButton();
   PostPrivateMessage(this, WM_UPDATESTATUS);
-  SetProcessState(true);
-  SetBusyCursor(false);
+  busy_->SetProcessState(true);
+  ShowBusyCursor(*this, false);
 }
 
 void TPlenoviaWnd::BuildMathMenu() {
@@ -133,7 +162,7 @@ void TPlenoviaWnd::BuildWindowList() {
     const qsizetype commandCount = menu->actions().size();
     connect(menu, &QMenu::aboutToShow, this, [this, menu, commandCount] {
       while (menu->actions().size() > commandCount) delete menu->actions().constLast();
-      const auto windows = area_->subWindowList();
+      const auto windows = desk_->Area().subWindowList();
       if (!windows.isEmpty()) menu->addSeparator();
       int number = 0;
       for (QMdiSubWindow* window : windows) {
@@ -141,9 +170,9 @@ void TPlenoviaWnd::BuildWindowList() {
         QAction* action = menu->addAction(
             QStringLiteral("&%1 %2").arg(++number).arg(title.replace(u'&', QStringLiteral("&&"))));
         action->setCheckable(true);
-        action->setChecked(window == area_->currentSubWindow());
+        action->setChecked(window == desk_->Area().currentSubWindow());
         connect(action, &QAction::triggered, window,
-                [this, window] { area_->setActiveSubWindow(window); });
+                [this, window] { desk_->Area().setActiveSubWindow(window); });
       }
     });
   }
@@ -151,29 +180,41 @@ void TPlenoviaWnd::BuildWindowList() {
 
 void TPlenoviaWnd::LoadSettings(const ProfileFile& settings) {
   const int start = settings.GetInt("Patterns", "Select", 0);
-  const int count = settings.GetInt("Patterns", "Count", 20);
-  const auto folder = FindPatternFolder(ProgramFile());
   status_->repaint();
-  patterns_ = std::make_unique<TSirdPatt>(
-      LoadPatterns(folder.value_or("sirdspat"), UserPatternFolder(), start, count,
-                   [this](int done, int of, bool loaded) {
-                     status_->SetMessage(tr("Loading Pattern No. %1").arg(done));
-                     if (!loaded && welcome_) welcome_->close();
-                     status_->SetProgress(static_cast<int>(std::int64_t{done} * 100 / of));
-                   }));
+  state_->patterns = std::make_unique<TSirdPatt>(
+      LoadPatterns(FindPatternFolders(ProgramFile()), start, [this](int done, int of, bool loaded) {
+        status_->SetMessage(tr("Loading Pattern No. %1").arg(done));
+        if (!loaded && welcome_) welcome_->close();
+        status_->SetProgress(static_cast<int>(std::int64_t{done} * 100 / of));
+      }));
   status_->SetMessage({});
   status_->SetProgress(0);
-  lastFormat_ = settings.GetInt("GRAPHICS", "Format", 1);
-  settings_ = LoadSirdsSettings(settings);
+  state_->lastFormat = settings.GetInt("GRAPHICS", "Format", 1);
+  state_->saveFormat = settings.GetInt("GRAPHICS", "SaveFormat", state_->saveFormat);
+  state_->settings = LoadSirdsSettings(settings);
+  state_->recentFiles = RecentFiles::Load(settings);
+  state_->openFolder = PathToQString(settings.GetText("Files", "Folder", ""));
+  Q_EMIT state_->FilesChanged();
 }
 
-void TPlenoviaWnd::SaveSettings(ProfileFile& settings) const {
-  settings.SetInt("Tools", "CntlBar", barLocation_);
-  settings.SetInt("GRAPHICS", "Format", lastFormat_);
-  settings.SetInt("Patterns", "Select", patterns_->GetCurrentIndex());
-  settings.SetInt("Patterns", "Count", patterns_->GetCount());
-  StoreSirdsSettings(settings_, settings);
-  SaveFrameRect(*this, settings);
+void TPlenoviaWnd::SaveSettings() {
+  settingsDelay_.stop();
+  auto file = ProfileFile::Load(SettingsPath());
+  if (!file || !state_->patterns) return;
+  const std::string before = file->Text();
+  file->SetInt("Tools", "CntlBar", barLocation_);
+  file->SetInt("GRAPHICS", "Format", state_->lastFormat);
+  file->SetInt("GRAPHICS", "SaveFormat", state_->saveFormat);
+  file->SetInt("Patterns", "Select", state_->patterns->GetCurrentNumber());
+  file->SetInt("Patterns", "Count", state_->patterns->GetCount());
+  StoreSirdsSettings(state_->settings, *file);
+  state_->recentFiles.Store(*file);
+  if (!state_->openFolder.isEmpty()) {
+    file->SetText("Files", "Folder", ToPath(state_->openFolder).string());
+  }
+  SaveFrameRect(*this, *file);
+  // A file that cannot be written stays as it was; the next change tries again.
+  if (file->Text() != before) static_cast<void>(file->Save(SettingsPath()));
 }
 
 HelpWindow& TPlenoviaWnd::Help() {
@@ -181,69 +222,13 @@ HelpWindow& TPlenoviaWnd::Help() {
   return *help_;
 }
 
-TColorWnd* TPlenoviaWnd::ColourTable() const {
-  return colourTable_;
-}
-
-void TPlenoviaWnd::SetColourTable(TColorWnd* window) {
-  colourTable_ = window;
-}
-
-TMouseWnd* TPlenoviaWnd::GetActiveChild() const {
-  return qobject_cast<TMouseWnd*>(area_->currentSubWindow());
-}
-
-TSirdsWnd* TPlenoviaWnd::ActivePicture() const {
-  return qobject_cast<TSirdsWnd*>(GetActiveChild());
-}
-
-void TPlenoviaWnd::Adopt(TMouseWnd& window) {
-  connect(&window, &TMouseWnd::StateChanged, commands_, &CommandRouter::RefreshSoon);
-  if (auto* map = qobject_cast<TMapWindow*>(&window)) {
-    connect(map, &TMapWindow::ToolChanged, toolsPalette_, &ButtonBar::PressButton);
-  }
-  CascadeNext(window);
-  window.show();
-  area_->setActiveSubWindow(&window);
-}
-
-void TPlenoviaWnd::CascadeNext(QMdiSubWindow& window) {
-  if (area_->subWindowList().size() <= 1) cascaded_ = 0;
-  const int step = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window) + 4;
-  window.move(QPoint(step, step) * cascaded_);
-  cascaded_ = (cascaded_ + 1) % kCascadedWindows;
-}
-
-void TPlenoviaWnd::SetProcessState(bool enabled) {
-  busy_ = !enabled;
-  menuBar()->actions().constFirst()->setEnabled(enabled);
+void TPlenoviaWnd::ShowBusyState() {
+  menuBar()->actions().constFirst()->setEnabled(!busy_->IsBusy());
   commands_->Refresh();
 }
 
-void TPlenoviaWnd::OperationBegins() {
-  ++operations_;
-  SetProcessState(false);
-}
-
-void TPlenoviaWnd::OperationEnds() {
-  --operations_;
-  SetProcessState(operations_ == 0);
-  if (operations_ == 0 && std::exchange(closesAfterOperation_, false)) {
-    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
-  }
-}
-
-void TPlenoviaWnd::SetBusyCursor(bool busy) {
-  setCursor(CursorById(busy ? kBusyCursor : kNormalCursor, devicePixelRatioF()));
-}
-
-void TPlenoviaWnd::RepaintAll() {
-  repaint();
-  area_->viewport()->repaint();
-}
-
 void TPlenoviaWnd::UpdatePatternButton() {
-  const auto pattern = patterns_ ? patterns_->GetCurrentBitmap() : nullptr;
+  const auto pattern = state_->patterns ? state_->patterns->GetCurrentBitmap() : nullptr;
   if (!pattern) return;
   mainBar_->SetFace(kCmPatterns,
                     PatternFace(*pattern, QSize(kMainBarPicture, kMainBarPicture),
@@ -252,60 +237,48 @@ void TPlenoviaWnd::UpdatePatternButton() {
 
 void TPlenoviaWnd::customEvent(QEvent* event) {
   if (event->type() == PrivateMessage::EventType()) {
-    HandlePrivateMessage(*this, *static_cast<PrivateMessage*>(event));
+    HandlePrivateMessage(context_, *static_cast<PrivateMessage*>(event));
   }
 }
 
 bool TPlenoviaWnd::event(QEvent* event) {
-  if (event->type() == QEvent::StatusTip && status_ != nullptr) {
+  if (event->type() == QEvent::StatusTip) {
     status_->SetHint(static_cast<QStatusTipEvent*>(event)->tip());
     return true;
   }
   return QMainWindow::event(event);
 }
 
+void TPlenoviaWnd::moveEvent(QMoveEvent* event) {
+  QMainWindow::moveEvent(event);
+  settingsDelay_.start();
+}
+
+void TPlenoviaWnd::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  settingsDelay_.start();
+}
+
 void TPlenoviaWnd::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) settingsDelay_.start();
   if (mainBar_ != nullptr && event->type() == QEvent::PaletteChange) UpdatePatternButton();
 }
 
-bool TPlenoviaWnd::AllMayClose() {
-  QList<QPointer<QMdiSubWindow>> windows;
-  for (QMdiSubWindow* window : area_->subWindowList()) windows << window;
-  for (const auto& window : windows) {
-    auto* document = qobject_cast<TMouseWnd*>(window);
-    // A window may have closed while another one asked.
-    if (document == nullptr || !area_->subWindowList().contains(document)) continue;
-    area_->setActiveSubWindow(document);
-    if (!document->CanClose()) return false;
-  }
-  return true;
-}
-
-void TPlenoviaWnd::CloseDocuments() {
-  for (QMdiSubWindow* window : area_->subWindowList()) {
-    if (auto* document = qobject_cast<TMouseWnd*>(window)) document->CloseUnasked();
-  }
-}
-
 void TPlenoviaWnd::closeEvent(QCloseEvent* event) {
-  if (operations_ > 0) {
-    // The request stops the operation; the frame closes when it has ended.
-    closesAfterOperation_ = true;
+  if (!leaves_ && !desk_->AllMayClose()) {
     event->ignore();
     return;
   }
-  if (!AllMayClose()) {
+  if (busy_->HasOperations()) {
+    // The frame closes when the operations have ended.
+    leaves_ = true;
+    SendPrivateMessage(this, PrivateMessage(WM_STOPPROCESS, kStopAllProcesses));
     event->ignore();
     return;
   }
   if (help_) help_->CloseHelp();
-  auto settings = ProfileFile::Load(SettingsPath());
-  if (settings && patterns_) {
-    SaveSettings(*settings);
-    // There is nobody left to tell that it could not be written.
-    static_cast<void>(settings->Save(SettingsPath()));
-  }
+  SaveSettings();
   event->accept();
 }
 

@@ -2,14 +2,14 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QMdiArea>
 #include <QPointer>
-#include <QRect>
-#include <memory>
+#include <QTimer>
 
+#include "app/busy_state.h"
+#include "app/command_context.h"
 #include "app/command_router.h"
-#include "engine/sirds_settings.h"
-#include "images/sird_patt.h"
+#include "app/desk.h"
+#include "app/program_state.h"
 #include "platform/profile_file.h"
 
 namespace plenovia {
@@ -18,14 +18,10 @@ class ButtonBar;
 class HelpWindow;
 class PopupHint;
 class TCStatusBar;
-class TColorWnd;
-class TMouseWnd;
-class TPrinterInt;
-class TSirdsWnd;
 class TWelcome;
 
-// Owns what the whole program uses: the one record of stereogram parameters, the pattern library,
-// the printer, the bars. Document windows and bars reach it through private messages.
+// Owns what the whole program uses and puts it together: its state, the desk of document windows,
+// the commands, the bars. Document windows and bars reach it through private messages.
 class TPlenoviaWnd : public QMainWindow {
   Q_OBJECT
 
@@ -43,77 +39,52 @@ class TPlenoviaWnd : public QMainWindow {
   // the start-up picture.
   void SetupWindow(const ProfileFile& settings);
 
-  QMdiArea* Area() const { return area_; }
-  CommandRouter& Commands() { return *commands_; }
-  TCStatusBar& Status() { return *status_; }
-  PopupHint& Hint() { return *hint_; }
-  TPrinterInt& Printer() { return *printer_; }
-  HelpWindow& Help();
-  TSirdsSettings& Settings() { return settings_; }
-  // Null until they are loaded.
-  TSirdPatt* Patterns() { return patterns_.get(); }
-  // GraphicFormat of the file that was opened or saved last.
-  int LastFormat() const { return lastFormat_; }
-  void SetLastFormat(int format) { lastFormat_ = format; }
-
-  // The one colour table window, or null.
-  TColorWnd* ColourTable() const;
-  void SetColourTable(TColorWnd* window);
-
+  QMdiArea* Area() const { return &desk_->Area(); }
   // The active document window, or null.
-  TMouseWnd* GetActiveChild() const;
-  // The active window if it shows a picture, or null.
-  TSirdsWnd* ActivePicture() const;
-  // Shows a new document window, makes it the active one and follows its state.
-  void Adopt(TMouseWnd& window);
-
-  // Asks every document window, each as the active one, until one refuses to close.
-  bool AllMayClose();
-  // Closes them without asking.
-  void CloseDocuments();
-
-  bool IsBusy() const { return busy_; }
-  // Leaves (true) or enters the busy state, in which most commands are gray.
-  void SetProcessState(bool enabled);
-  // Long operations announce their begin and end; they may run nested in one another.
-  void OperationBegins();
-  void OperationEnds();
-  void SetBusyCursor(bool busy);
-  // Repaints the frame and its windows at once.
-  void RepaintAll();
-  void UpdatePatternButton();
+  Document* GetActiveChild() const { return desk_->Active(); }
+  CommandRouter& Commands() { return *commands_; }
+  // What the frame's commands work on.
+  CommandContext& Context() { return context_; }
+  TCStatusBar& Status() { return *status_; }
+  TSirdsSettings& Settings() { return state_->settings; }
+  // Null until they are loaded.
+  TSirdPatt* Patterns() { return state_->patterns.get(); }
+  int LastFormat() const { return state_->lastFormat; }
+  void Adopt(Document& window) { desk_->Adopt(window); }
+  bool IsBusy() const { return busy_->IsBusy(); }
 
  protected:
   void customEvent(QEvent* event) override;
   bool event(QEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
   void BuildMathMenu();
   void BuildWindowList();
   void LoadSettings(const ProfileFile& settings);
-  void SaveSettings(ProfileFile& settings) const;
-  void CascadeNext(QMdiSubWindow& window);
+  // Writes what changed.
+  void SaveSettings();
+  void UpdatePatternButton();
+  void ShowBusyState();
+  HelpWindow& Help();
 
-  QMdiArea* area_;
+  ProgramState* state_;
+  BusyState* busy_;
+  Desk* desk_;
+  TCStatusBar* status_;
+  PopupHint* hint_;
+  CommandContext context_;
   CommandRouter* commands_;
-  TCStatusBar* status_ = nullptr;
   ButtonBar* mainBar_ = nullptr;
   ButtonBar* toolsPalette_ = nullptr;
-  PopupHint* hint_ = nullptr;
   QPointer<TWelcome> welcome_;
+  QTimer settingsDelay_;
   QPointer<HelpWindow> help_;
-  QPointer<TColorWnd> colourTable_;
-  std::unique_ptr<TPrinterInt> printer_;
-  std::unique_ptr<TSirdPatt> patterns_;
-  TSirdsSettings settings_;
-  int lastFormat_ = 1;
   int barLocation_ = 0;
-  bool busy_ = true;
-  int operations_ = 0;
-  int cascaded_ = 0;
-  bool closesAfterOperation_ = false;
+  bool leaves_ = false;  // as soon as no operation is left: every window agreed
 };
 
 }  // namespace plenovia

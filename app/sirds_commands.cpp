@@ -1,141 +1,172 @@
 #include "app/sirds_commands.h"
 
 #include <QPointer>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
 #include <utility>
 
-#include "app/command_table.h"
+#include "app/command_context.h"
+#include "app/desk.h"
 #include "app/file_commands.h"
-#include "app/plenovia_wnd.h"
+#include "app/program_state.h"
+#include "app/save_commands.h"
 #include "app/settings_path.h"
 #include "app/status_bar.h"
-#include "depthmap/ui/map_window.h"
+#include "codec/picture_format.h"
+#include "depthmap/depth_map_file.h"
+#include "documents/ui/commands.h"
+#include "engine/fit_depth_range.h"
 #include "engine/ui/sett_dialog.h"
 #include "engine/ui/sirds_wnd.h"
 #include "engine/ui/wizard_run.h"
 #include "figures/sirdmath.h"
 #include "images/add_pattern.h"
-#include "images/pattern_files.h"
 #include "images/ui/figure_titles.h"
 #include "images/ui/patt_dialog.h"
+#include "platform/file_io.h"
 #include "platform/ui/message_box.h"
 #include "platform/ui/private_message.h"
+#include "platform/ui/resource_pictures.h"
 #include "platform/ui/text.h"
 
 namespace plenovia {
 
 namespace {
 
-// A run that the user stopped needs no words.
-void ShowFailure(TPlenoviaWnd& frame, const Error& error) {
-  if (error.code == ErrorCode::kCancelled) return;
-  ShowMessage(&frame, ToQString(error.message), TPlenoviaWnd::tr("Error"), MessageIcon::kStop);
-}
-
-void MakeFromPicture(TPlenoviaWnd& frame, TSirdsWnd& source) {
-  if (source.IsStereogram()) {
-    ShowMessage(&frame, TPlenoviaWnd::tr("The active window is already a SIRD."),
-                TPlenoviaWnd::tr("Note"), MessageIcon::kInformation);
-    return;
-  }
-  auto made = source.MakeSirdFromBitmap();
+void MakeFromPicture(CommandContext& context, Document& source) {
+  const QString proposed = ProposedStereogramFile(source);
+  auto made = MakeSirdFromBitmap(source, context.state.patterns.get(), context.state.settings);
   if (!made) {
-    ShowFailure(frame, made.error());
+    ShowFailure(&context.frame, made.error());
     return;
   }
   const QSize size(made->bitmap->width(), made->bitmap->height());
-  auto* window = new TSirdsWnd(frame.Area(), made->title, &frame, nullptr, size, &frame.Settings());
+  auto* window = new TSirdsWnd(&context.desk.Area(), made->title, &context.frame, nullptr, size,
+                               &context.state.settings);
   window->SetIsStereogram(true);
-  frame.Adopt(*window);
+  window->ProposeFile(proposed);
+  context.desk.Adopt(*window);
   window->SetImage(std::move(made->bitmap));
+  window->TellFittedRange(made->run);
 }
 
-void MakeFromMap(TPlenoviaWnd& frame, TMapWindow& map) {
-  const DepthMapInfo info = map.GetBitmapInfo();
-  const QPointer<TSirdsWnd> window =
-      new TSirdsWnd(frame.Area(), TPlenoviaWnd::tr("untitled"), &frame, nullptr,
-                    QSize(info.width, info.height), &frame.Settings());
-  frame.Adopt(*window);
-  frame.Status().SetMessage(QString());
-  frame.Status().SetImageText(QString());
-  const auto levels = map.Levels();  // kept, should the map be closed meanwhile
-  const auto made = window->MakeSirdFromDepthMap(*levels);
+// In a new window, which `make` fills. It may be gone when that returns. `proposed` is the file
+// that it may be saved as, and may be empty.
+void MakeInNewWindow(CommandContext& context, const QString& title, const QString& proposed,
+                     const QSize& size, const std::function<Result<void>(TSirdsWnd&)>& make) {
+  const QPointer<TSirdsWnd> window = new TSirdsWnd(&context.desk.Area(), title, &context.frame,
+                                                   nullptr, size, &context.state.settings);
+  window->ProposeFile(proposed);
+  context.desk.Adopt(*window);
+  const auto made = make(*window);
   if (!made) {
-    ShowFailure(frame, made.error());
+    ShowFailure(&context.frame, made.error());
   } else if (window) {
     window->SetIsStereogram(true);
-    SendPrivateMessage(&frame, PrivateMessage(WM_UPDATESTATUS));
+    SendPrivateMessage(&context.frame, PrivateMessage(WM_UPDATESTATUS));
   }
 }
 
-void PostCommand(TPlenoviaWnd& frame, int command) {
+void MakeFromLevels(CommandContext& context, const Document& map,
+                    const std::shared_ptr<const LevelGrid>& levels) {
+  context.status.SetMessage(QString());
+  context.status.SetImageText(QString());
+  MakeInNewWindow(context, Commands::tr("untitled"), ProposedStereogramFile(map),
+                  QSize(levels->GridWidth(), levels->GridHeight()),
+                  [&levels](TSirdsWnd& window) { return window.MakeSirdFromDepthMap(levels); });
+}
+
+// What the wizard's size page asks for.
+std::optional<SourceLevels> LevelsOfSource(const WizardSource& source,
+                                           const TSirdsSettings& settings) {
+  if (source.type == kFigureSource) return SourceLevels{kFigureLevels, SourceKind::kShape};
+  const auto file = ReadFile(ToPath(source.name));
+  if (!file) return std::nullopt;
+  if (source.type == kDepthMapSource || LooksLikeDepthMap(*file)) {
+    const auto map = DecodeDepthMap(*file);
+    if (!map) return std::nullopt;
+    return SourceLevels{LevelsOf(map->list), SourceKind::kShape};
+  }
+  const auto picture = DecodePicture(std::span(*file));
+  if (!picture) return std::nullopt;
+  return SourceLevels{LevelsOf(*picture, settings.depthSel), SourceKind::kImage};
+}
+
+// With the range as set when `asSet`. A run reads the settings when it starts.
+void MakeLater(CommandContext& context, int command, bool asSet) {
+  TSirdsSettings& settings = context.state.settings;
+  const std::int32_t fitRange = settings.fitRange;
+  if (asSet) settings.fitRange = 0;
+  context.runLater(command);
   QMetaObject::invokeMethod(
-      &frame, [&frame, command] { frame.Commands().Run(command); }, Qt::QueuedConnection);
+      &context.frame, [&settings, fitRange] { settings.fitRange = fitRange; },
+      Qt::QueuedConnection);
 }
 
 }  // namespace
 
-void CmMakeSirds(TPlenoviaWnd& frame) {
-  TMouseWnd* active = frame.GetActiveChild();
-  if (auto* picture = qobject_cast<TSirdsWnd*>(active)) {
-    MakeFromPicture(frame, *picture);
-  } else if (auto* map = qobject_cast<TMapWindow*>(active)) {
-    MakeFromMap(frame, *map);
+void CmMakeSirds(CommandContext& context) {
+  if (Document* active = context.desk.Active()) {
+    const DocumentDepth depth = active->Depth();
+    if (active->IsStereogram()) {
+      ShowMessage(&context.frame, Commands::tr("The active window is already a SIRD."),
+                  Commands::tr("Note"), MessageIcon::kInformation);
+    } else if (depth.levels) {
+      MakeFromLevels(context, *active, depth.levels);
+    } else {
+      MakeFromPicture(context, *active);
+    }
   }
-  frame.RepaintAll();
+  RepaintAll(context);
 }
 
-void CmFigure(TPlenoviaWnd& frame, int command) {
+void CmFigure(CommandContext& context, int command) {
   const int number = command - kCmFirstFigure;
   if (number < 0 || number >= _GetFigureCount()) return;
-  QPointer<TSirdsWnd> window = frame.Settings().useBmp != 0 ? frame.ActivePicture() : nullptr;
-  const bool isNew = window.isNull();
-  if (isNew) {
-    const TSirdsSettings& settings = frame.Settings();
-    window = new TSirdsWnd(frame.Area(), FigureTitle(number), &frame, nullptr,
-                           QSize(settings.w, settings.h), &settings);
-    frame.Adopt(*window);
-  }
-  const auto made = window->MakeSirdFromFigure(-(number + 1));
-  if (!made) {
-    ShowFailure(frame, made.error());
-  } else if (window && isNew) {
-    window->SetIsStereogram(true);
-    SendPrivateMessage(&frame, PrivateMessage(WM_UPDATESTATUS));
-  }
+  const TSirdsSettings& settings = context.state.settings;
+  MakeInNewWindow(context, FigureTitle(number), QString(), QSize(settings.w, settings.h),
+                  [number](TSirdsWnd& window) { return window.MakeSirdFromFigure(-(number + 1)); });
 }
 
-void CmWizard(TPlenoviaWnd& frame) {
-  const auto source = RunWizard(&frame, frame.Settings(), *frame.Patterns(), SettingsPath());
-  frame.UpdatePatternButton();
+void CmWizard(CommandContext& context) {
+  const TSirdsSettings& settings = context.state.settings;
+  const auto source = RunWizard(
+      &context.frame, context.state.settings, *context.state.patterns, SettingsPath(),
+      [&settings](const WizardSource& chosen) { return LevelsOfSource(chosen, settings); });
+  Q_EMIT context.state.PatternChanged();
   if (!source) return;
   if (source->type == kFigureSource) {
-    PostCommand(frame, kCmFirstFigure + source->figure);
+    MakeLater(context, kCmFirstFigure + source->figure, source->rangeTyped);
     return;
   }
   if (source->type == kBitmapSource) {
-    OpenPicture(frame, source->name);
+    OpenPicture(context, source->name);
   } else {
-    OpenDepthMap(frame, source->name);
+    OpenDepthMap(context, source->name);
   }
-  frame.Status().SetMessage(QString());
-  SendPrivateMessage(&frame, PrivateMessage(WM_UPDATESTATUS));
-  frame.SetBusyCursor(false);
-  PostCommand(frame, kCmMakeSirds);
+  ShowBusyCursor(context.frame, false);
+  MakeLater(context, kCmMakeSirds, source->rangeTyped);
 }
 
-void CmSettings(TPlenoviaWnd& frame) {
-  TSettDialog(&frame, frame.Settings()).exec();
+void CmSettings(CommandContext& context) {
+  TSettDialog(&context.frame, context.state.settings).exec();
 }
 
-void CmPatterns(TPlenoviaWnd& frame) {
-  TPattDialog(&frame, *frame.Patterns(), frame.ActivePicture() != nullptr).exec();
-  frame.UpdatePatternButton();
+void CmPatterns(CommandContext& context) {
+  const Document* active = context.desk.Active();
+  const bool mayAdd = active != nullptr && active->GetWindowKind() == kPictureWindow;
+  TPattDialog(&context.frame, *context.state.patterns, mayAdd).exec();
+  Q_EMIT context.state.PatternChanged();
 }
 
-bool AddPatternFromPicture(TPlenoviaWnd& frame) {
-  const TSirdsWnd* window = frame.ActivePicture();
-  if (window == nullptr || !window->Picture()) return false;
-  return AddPattern(*frame.Patterns(), *window->Picture(), UserPatternFolder()).has_value();
+Result<void> AddPatternFromPicture(CommandContext& context) {
+  const Document* active = context.desk.Active();
+  const auto picture = active != nullptr ? active->Picture() : nullptr;
+  if (!picture) return Failure(ErrorCode::kInvalid, "there is no picture in the active window");
+  return AddPattern(*context.state.patterns, *picture);
 }
 
 }  // namespace plenovia

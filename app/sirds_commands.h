@@ -1,19 +1,20 @@
 // Making stereograms, and what they are made with.
 #pragma once
 
+#include "platform/result.h"
+
 namespace plenovia {
 
-class TPlenoviaWnd;
+struct CommandContext;
 
 // The stereogram of the active picture or depth map, in a new window.
-void CmMakeSirds(TPlenoviaWnd& frame);
-// The stereogram of a mathematical figure; `command` is 301 + its number. In a new window, or over
-// the active picture when the settings ask for that.
-void CmFigure(TPlenoviaWnd& frame, int command);
-void CmWizard(TPlenoviaWnd& frame);
-void CmSettings(TPlenoviaWnd& frame);
-void CmPatterns(TPlenoviaWnd& frame);
-// Adds the corner of the active picture to the pattern library. False when it cannot.
-bool AddPatternFromPicture(TPlenoviaWnd& frame);
+void CmMakeSirds(CommandContext& context);
+// The stereogram of a mathematical figure in a new window; `command` is 301 + its number.
+void CmFigure(CommandContext& context, int command);
+void CmWizard(CommandContext& context);
+void CmSettings(CommandContext& context);
+void CmPatterns(CommandContext& context);
+// Adds the corner of the active picture to the pattern library.
+[[nodiscard]] Result<void> AddPatternFromPicture(CommandContext& context);
 
 }  // namespace plenovia

@@ -2,6 +2,8 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QUrl>
+#include <chrono>
 
 #include "app/elided_label.h"
 
@@ -12,11 +14,12 @@ namespace {
 constexpr QSize kGaugeSize(110, 15);
 constexpr int kGaugeLeft = 5;
 constexpr int kFieldMargin = 3;
+constexpr std::chrono::seconds kNoteTime{12};
 
 }  // namespace
 
 TCStatusBar::TCStatusBar(QWidget* parent)
-    : QStatusBar(parent), gauge_(new QProgressBar), message_(new ElidedLabel) {
+    : QStatusBar(parent), gauge_(new QProgressBar), message_(new ElidedLabel), note_(new QLabel) {
   auto* area = new QWidget;
   auto* row = new QHBoxLayout(area);
   row->setContentsMargins(kGaugeLeft, 0, 0, 0);
@@ -28,6 +31,19 @@ TCStatusBar::TCStatusBar(QWidget* parent)
   gauge_->setTextVisible(false);
   gauge_->setValue(0);
   message_->setObjectName(QStringLiteral("message"));
+  note_->setObjectName(QStringLiteral("note"));
+  note_->setTextFormat(Qt::RichText);
+  note_->setOpenExternalLinks(true);
+  note_->setFocusPolicy(Qt::StrongFocus);
+  note_->setTextInteractionFlags(Qt::TextBrowserInteraction);
+  note_->hide();
+  addPermanentWidget(note_);
+  noteTime_.setSingleShot(true);
+  noteTime_.setInterval(kNoteTime);
+  connect(&noteTime_, &QTimer::timeout, note_, [this] {
+    note_->hide();
+    note_->clear();
+  });
   imageField_ = AddField(QStringLiteral("image"));
   freeField_ = AddField(QStringLiteral("free"));
   FitFields();
@@ -47,6 +63,17 @@ void TCStatusBar::FitFields() {
     const int text = field->fontMetrics().horizontalAdvance(tr("Image: 32459 Kb"));
     field->setMinimumWidth(text + 2 * (kFieldMargin + field->frameWidth()));
   }
+}
+
+void TCStatusBar::ShowNote(const QString& text, const QString& folder) {
+  QString shown = text.toHtmlEscaped();
+  if (!folder.isEmpty()) {
+    const QString address = QUrl::fromLocalFile(folder).toString(QUrl::FullyEncoded);
+    shown += QStringLiteral(" <a href=\"%1\">%2</a>").arg(address, tr("Show in folder"));
+  }
+  note_->setText(shown);
+  note_->show();
+  noteTime_.start();
 }
 
 void TCStatusBar::SetMessage(const QString& text) {

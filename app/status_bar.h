@@ -5,6 +5,7 @@
 #include <QProgressBar>
 #include <QStatusBar>
 #include <QString>
+#include <QTimer>
 
 namespace plenovia {
 
@@ -31,6 +32,10 @@ class TCStatusBar : public QStatusBar {
   void SetImageText(const QString& text);
   QString ImageText() const { return imageField_->text(); }
   void SetFreeText(const QString& text);
+  // Tells something for some seconds beside the message; with a link that opens `folder`, when one
+  // is named.
+  void ShowNote(const QString& text, const QString& folder = QString());
+  QString Note() const { return note_->text(); }
   // Paints what was changed, before it returns.
   void RepaintNow();
 
@@ -46,6 +51,8 @@ class TCStatusBar : public QStatusBar {
   ElidedLabel* message_;
   QLabel* imageField_;
   QLabel* freeField_;
+  QLabel* note_;
+  QTimer noteTime_;
   QString text_;
   QString hint_;  // empty: none
   // Turns over with every hint set or cleared, as the gauge is hidden and shown again; decides

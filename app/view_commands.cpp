@@ -3,60 +3,50 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
-#include "app/plenovia_wnd.h"
-#include "engine/ui/sirds_wnd.h"
+#include "app/cascade.h"
+#include "app/command_context.h"
+#include "app/desk.h"
 #include "images/ui/color_wnd.h"
 #include "platform/ui/message_box.h"
 
 namespace plenovia {
 
-void CmZoomIn(TPlenoviaWnd& frame) {
-  if (TSirdsWnd* picture = frame.ActivePicture()) picture->ZoomIn();
-}
-
-void CmZoomOut(TPlenoviaWnd& frame) {
-  if (TSirdsWnd* picture = frame.ActivePicture()) picture->ZoomOut();
-}
-
-void CmGrayImage(TPlenoviaWnd& frame) {
-  if (TSirdsWnd* picture = frame.ActivePicture()) picture->MakeGray();
-}
-
-void CmColorTable(TPlenoviaWnd& frame) {
-  const TSirdsWnd* picture = frame.ActivePicture();
-  if (picture == nullptr) {
-    ShowMessage(&frame, TPlenoviaWnd::tr("Please open or select a Bitmap Graphic window."),
-                TPlenoviaWnd::tr("Color Table"), MessageIcon::kExclamation);
+void CmColorTable(CommandContext& context) {
+  const Document* active = context.desk.Active();
+  if (active == nullptr || active->GetWindowKind() != kPictureWindow) {
+    ShowMessage(&context.frame, Commands::tr("Please open or select a Bitmap Graphic window."),
+                Commands::tr("Color Table"), MessageIcon::kExclamation);
     return;
   }
-  if (!picture->Picture()) return;
-  const Palette shown = picture->Picture()->palette();
-  TColorWnd* table = frame.ColourTable();
+  const auto picture = active->Picture();
+  if (!picture) return;
+  TColorWnd* table = context.desk.ColourTable();
   if (table == nullptr) {
-    table = new TColorWnd(frame.Area(), TPlenoviaWnd::tr("Color Table"), &frame);
-    frame.SetColourTable(table);
-    frame.Adopt(*table);
+    table = new TColorWnd(&context.desk.Area(), Commands::tr("Color Table"), &context.frame);
+    context.desk.SetColourTable(table);
+    context.desk.Adopt(*table);
   } else {
     table->showNormal();
-    frame.Area()->setActiveSubWindow(table);
+    context.desk.Area().setActiveSubWindow(table);
   }
-  table->SetSource(shown);
+  table->SetSource(picture->palette());
 }
 
-void CmCascade(TPlenoviaWnd& frame) {
-  frame.Area()->cascadeSubWindows();
+void CmCascade(CommandContext& context) {
+  CascadeWindows(context.desk.Area());
 }
 
-void CmTile(TPlenoviaWnd& frame) {
-  frame.Area()->tileSubWindows();
+void CmTile(CommandContext& context) {
+  context.desk.Area().tileSubWindows();
 }
 
-void CmArrangeIcons(TPlenoviaWnd& frame) {
-  QPoint place(0, frame.Area()->viewport()->height());
+void CmArrangeIcons(CommandContext& context) {
+  QMdiArea& area = context.desk.Area();
+  QPoint place(0, area.viewport()->height());
   int rowHeight = 0;
-  for (QMdiSubWindow* window : frame.Area()->subWindowList()) {
+  for (QMdiSubWindow* window : area.subWindowList()) {
     if (!window->isMinimized()) continue;
-    if (place.x() > 0 && place.x() + window->width() > frame.Area()->viewport()->width()) {
+    if (place.x() > 0 && place.x() + window->width() > area.viewport()->width()) {
       place = {0, place.y() - rowHeight};
     }
     rowHeight = window->height();
@@ -65,8 +55,8 @@ void CmArrangeIcons(TPlenoviaWnd& frame) {
   }
 }
 
-void CmCloseAll(TPlenoviaWnd& frame) {
-  if (frame.AllMayClose()) frame.CloseDocuments();
+void CmCloseAll(CommandContext& context) {
+  if (context.desk.AllMayClose()) context.desk.CloseDocuments();
 }
 
 }  // namespace plenovia

@@ -1,20 +1,17 @@
-// How pictures and windows are shown.
+// Where windows stand, and the colour table.
 #pragma once
 
 namespace plenovia {
 
-class TPlenoviaWnd;
+struct CommandContext;
 
-void CmZoomIn(TPlenoviaWnd& frame);
-void CmZoomOut(TPlenoviaWnd& frame);
-void CmGrayImage(TPlenoviaWnd& frame);
 // Shows the palette of the active picture in the one colour table window.
-void CmColorTable(TPlenoviaWnd& frame);
+void CmColorTable(CommandContext& context);
 
-void CmCascade(TPlenoviaWnd& frame);
-void CmTile(TPlenoviaWnd& frame);
+void CmCascade(CommandContext& context);
+void CmTile(CommandContext& context);
 // Lines the minimised windows up at the bottom.
-void CmArrangeIcons(TPlenoviaWnd& frame);
-void CmCloseAll(TPlenoviaWnd& frame);
+void CmArrangeIcons(CommandContext& context);
+void CmCloseAll(CommandContext& context);
 
 }  // namespace plenovia

@@ -37,7 +37,8 @@ void CompareGeneration(bench::DesktopProgram& program,
     bench::Keep(&made);
   };
   const auto inWindow = [&] {
-    const auto made = window->MakeSirdFromBitmap();
+    const auto made =
+        MakeSirdFromBitmap(*window, program.Frame().Patterns(), program.Frame().Settings());
     bench::Keep(&made);
   };
   const auto [waited, core] = bench::SecondsInTurn(inWindow, alone);

@@ -1,6 +1,7 @@
 // The depth found again in a large stereogram, on one core: separations tried at all pixels, beside
 // copying as many bytes.
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -8,8 +9,9 @@
 #include "bench/quiet_monitor.h"
 #include "bench/stopwatch.h"
 #include "bench/table.h"
+#include "engine/prepared_shift.h"
 #include "engine/reveal.h"
-#include "engine/scan_methods.h"
+#include "engine/scan_method.h"
 #include "platform/random.h"
 
 namespace {
@@ -26,6 +28,9 @@ constexpr double kMillions = 1e-6 * kWidth * kHeight * (kLargest - kSmallest + 1
 IndexedImage Stereogram(const Palette& palette) {
   Random random(1);
   const TSirdsSettings settings;
+  const auto shift = ScanMethodOf(settings.scanMethod)
+                         .prepare({kWidth, settings.gapValue, SourceKind::kShape, settings});
+  ShiftBuffers row(kWidth);
   IndexedImage picture = IndexedImage::Create(kWidth, kHeight, palette).value();
   std::vector<std::int32_t> levels(kWidth);
   for (int y = 0; y < kHeight; ++y) {
@@ -33,7 +38,10 @@ IndexedImage Stereogram(const Palette& palette) {
       levels[static_cast<std::size_t>(x)] = (x / 8 + y / 8) % 64;
       picture.Row(y)[static_cast<std::size_t>(x)] = random.Byte();
     }
-    ShiftRow(picture.Row(y), levels, settings.gapValue, SourceKind::kShape, settings);
+    std::copy_n(picture.Row(y).begin(), kWidth, row.pixels().begin());
+    std::copy_n(levels.begin(), kWidth, row.levels().begin());
+    shift->Shift(row);
+    std::copy_n(row.pixels().begin(), kWidth, picture.Row(y).begin());
   }
   return picture;
 }

@@ -9,7 +9,8 @@
 #include "bench/smooth_depth.h"
 #include "bench/stopwatch.h"
 #include "bench/table.h"
-#include "engine/prepared_shift.h"
+#include "engine/scan_method.h"
+#include "engine/tests/plain_shift.h"
 #include "platform/random.h"
 
 namespace {
@@ -20,13 +21,14 @@ constexpr int kWidth = 4000;
 constexpr int kHeight = 3000;
 constexpr int kDistinctRows = 250;  // of depth; used again and again, as a picture's cache would
 
-void Measure(const char* name, std::int32_t method, std::span<const std::uint8_t> depth,
+void Measure(std::int32_t number, std::span<const std::uint8_t> depth,
              const std::vector<std::uint8_t>& background) {
   TSirdsSettings settings;
-  settings.scanMethod = method;
-  settings.zmax = method == kLeftToRight ? 1020 : 255;  // shifts of up to 64 pixels
-  const PreparedShift shift(kWidth, settings.gapValue, SourceKind::kImage, settings);
-  ShiftBuffers row = shift.MakeRow();
+  settings.scanMethod = number;
+  settings.zmax = number == kLeftToRight ? 1020 : 255;  // shifts of up to 64 pixels
+  const ScanMethod& method = ScanMethodOf(number);
+  const auto shift = method.prepare({kWidth, settings.gapValue, SourceKind::kImage, settings});
+  ShiftBuffers row(kWidth);
   std::vector<std::int32_t> levels(depth.begin(), depth.end());
 
   const auto fill = [&] { std::memcpy(row.pixels().data(), background.data(), kWidth); };
@@ -50,12 +52,12 @@ void Measure(const char* name, std::int32_t method, std::span<const std::uint8_t
     for (int y = 0; y < kHeight; ++y) {
       std::memcpy(row.byteLevels().data(), depth.data() + (y % kDistinctRows) * kWidth, kWidth);
       fill();
-      shift.ShiftBytes(row);
+      shift->ShiftBytes(row);
       bench::Keep(row.pixels().data());
     }
   });
   const double mega = kWidth * 1e-6 * kHeight;
-  const std::string what = std::string(name) + ", one thread";
+  const std::string what = std::string(method.title) + ", one thread";
   bench::PrintRates(what, mega / prepared, "pixels", "its plain rule", mega / plain);
   bench::PrintRates(what, mega / prepared, "pixels", "copying the rows", mega / copy);
 }
@@ -67,7 +69,7 @@ int main() {
   Random random(1);
   std::vector<std::uint8_t> background(kWidth);
   for (auto& pixel : background) pixel = random.Byte();
-  Measure("Left-To-Right", kLeftToRight, depth.pixels(), background);
-  Measure("McMahon", kMcMahon, depth.pixels(), background);
-  Measure("Feucht", kFeucht, depth.pixels(), background);
+  for (const std::int32_t number : {kLeftToRight, kMcMahon, kFeucht}) {
+    Measure(number, depth.pixels(), background);
+  }
 }

@@ -24,7 +24,7 @@
 #include "bench/stopwatch.h"
 #include "bench/table.h"
 #include "codec/graph_io.h"
-#include "codec/graphic_format.h"
+#include "codec/picture_format.h"
 #include "figures/sirdmath.h"
 #include "platform/file_io.h"
 
@@ -54,13 +54,13 @@ void OpenJpeg(bench::DesktopProgram& program, const Folder& folder) {
   const std::vector<std::uint8_t> file = bench::ColourJpeg(5472, 3648);
   if (!WriteFile(path, std::span<const std::uint8_t>(file))) std::exit(1);
   const auto open = [&] {
-    OpenByName(program.Frame(), QString::fromStdString(path.string()));
+    OpenByName(program.Frame().Context(), QString::fromStdString(path.string()));
     program.HandleEvents();
   };
   const auto [waited, floor] = bench::SecondsInTurn(
       open, [&] { bench::ReadJpegRows(file); }, 5);
   bench::PrintTimes("open a JPEG of 20 megapixels", waited, "libjpeg reading its rows once", floor);
-  program.Frame().CloseDocuments();
+  program.Frame().Context().desk.CloseDocuments();
   program.HandleEvents();
 }
 
@@ -179,12 +179,12 @@ void Repaint(bench::DesktopProgram& program, const Picture& picture) {
 void SampleMap(bench::DesktopProgram& program) {
   constexpr int kSide = 4000;
   TSirdsWnd* window = program.Show(nullptr);
-  const auto make = [&](const LevelGrid& map) {
+  const auto make = [&](const std::shared_ptr<const LevelGrid>& map) {
     if (!window->MakeSirdFromDepthMap(map)) std::exit(1);
     program.HandleEvents();
   };
-  const TDepthList big = bench::CrowdedMap(kSide, 1000);
-  const TDepthList flat(kSide, kSide);
+  const auto big = std::make_shared<TDepthList>(bench::CrowdedMap(kSide, 1000));
+  const auto flat = std::make_shared<TDepthList>(kSide, kSide);
   const auto [waited, without] = bench::SecondsInTurn([&] { make(big); }, [&] { make(flat); }, 5);
   bench::PrintTimes("a run on a map of 4000 x 4000, 1000 objects", waited,
                     "the same map without objects", without);
@@ -199,7 +199,10 @@ int Run() {
   const auto depth = std::make_shared<const IndexedImage>(bench::SmoothDepth(4000, 3000));
   program.Frame().Settings().zmax = 255;
   TSirdsWnd* source = program.Show(depth);
-  const Picture stereogram = source->MakeSirdFromBitmap().value().bitmap;
+  const Picture stereogram =
+      MakeSirdFromBitmap(*source, program.Frame().Patterns(), program.Frame().Settings())
+          .value()
+          .bitmap;
   program.Close(source);
   Save(folder, stereogram);
   MakeFigures(program);

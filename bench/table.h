@@ -19,7 +19,7 @@ void PrintRates(const std::string& what, double rate, const std::string& unit,
 
 // "12.3 ms"
 std::string Milliseconds(double seconds);
-// `value` with so many digits behind the point, and the unit behind it.
+// `value` with that number of digits behind the point, and the unit behind it.
 std::string Number(double value, int digits, const std::string& unit);
 
 }  // namespace plenovia::bench

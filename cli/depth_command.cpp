@@ -71,7 +71,7 @@ Result<IndexedImage> DepthPicture(const Source& source, const DepthOptions& opti
   };
   const bool finished = RunBands(width, height, options.run.Threads(), makeWorker, monitor);
   monitor.OnProgress(ProgressPhase::kEnd, {});
-  if (!finished) return Failure(ErrorCode::kCancelled, "stopped");
+  if (!finished) return Failure(ErrorCode::kCancelled, "The run was stopped.");
   return picture;
 }
 
@@ -80,11 +80,11 @@ Outcome<void> Depth(const DepthOptions& options) {
       given != nullptr && !NamesFigure(options.source)) {
     return WrongUsage(given->get_name() + " is for figures only");
   }
-  const auto source = OpenSource(options.source);
+  const auto source = OpenSource(options.source, options.run.Threads());
   if (!source) return tl::unexpected(source.error());
   const auto picture = DepthPicture(*source, options);
   if (!picture) return Failed(options.source, picture.error());
-  return WriteOutput(options.out, *picture);
+  return WriteOutput(options.out, *picture, options.run.Threads());
 }
 
 }  // namespace
@@ -92,7 +92,7 @@ Outcome<void> Depth(const DepthOptions& options) {
 void AddDepthCommand(CLI::App& program, Task& task) {
   CLI::App* command = program.add_subcommand("depth", "Show the depth of a source in gray");
   auto options = std::make_shared<DepthOptions>();
-  AddOperand(*command, "SOURCE", options->source, kSourceHelp);
+  AddOperand(*command, "SOURCE", options->source, SourceHelp());
   AddOutput(*command, options->out, OutputKind::kGray);
   AddDepthBy(*command, options->settings);
   options->figureOnly = AddFigureOptions(*command, options->settings);

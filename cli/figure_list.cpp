@@ -5,21 +5,9 @@
 #include <charconv>
 
 #include "figures/sirdmath.h"
+#include "platform/ascii.h"
 
 namespace plenovia {
-
-namespace {
-
-char Lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool SameLetters(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return Lower(x) == Lower(y); });
-}
-
-}  // namespace
 
 FigureList::FigureList() {
   _InitFigureTitles();

@@ -6,6 +6,7 @@
 #include "cli/commands.h"
 #include "cli/options.h"
 #include "cli/source.h"
+#include "codec/picture_format.h"
 
 namespace plenovia {
 
@@ -33,8 +34,7 @@ Outcome<void> Tell(const std::string& file) {
 void AddInfoCommand(CLI::App& program, Task& task) {
   CLI::App* command = program.add_subcommand("info", "Tell what is in a file");
   auto file = std::make_shared<std::string>();
-  AddOperand(*command, "FILE", *file,
-             "A picture (BMP, PCX, GIF, JPEG or PNG) or a depth map (.rds)");
+  AddOperand(*command, "FILE", *file, "A picture (" + ReadableNames() + ")\nor a depth map (.rds)");
   command->footer(
       "Prints lines such as \"format: GIF\", \"size: 640x480\" and \"colours: 256\" (the colours\n"
       "of its palette); of a depth map \"format: RDS\", its size and \"objects: 7\".\n\n"

@@ -1,4 +1,5 @@
 #include <CLI/CLI.hpp>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <utility>
@@ -11,6 +12,7 @@
 #include "cli/pattern.h"
 #include "cli/source.h"
 #include "cli/terminal_monitor.h"
+#include "engine/fit_depth_range.h"
 #include "engine/generation.h"
 #include "figures/sirdmath.h"
 
@@ -25,6 +27,7 @@ struct MakeOptions {
   std::string background;
   TSirdsSettings settings;
   RunOptions run;
+  bool fit = false;
   std::vector<CLI::Option*> figureOnly;
   std::vector<CLI::Option*> sizes;
 };
@@ -42,21 +45,46 @@ Outcome<void> CheckOptions(const MakeOptions& options) {
   return {};
 }
 
+// The levels of a source, and what kind of levels they are.
+std::pair<LevelRange, SourceKind> LevelsIn(const Source& source, std::int32_t depthSel) {
+  if (const auto* picture = std::get_if<IndexedImage>(&source)) {
+    return {LevelsOf(*picture, depthSel), SourceKind::kImage};
+  }
+  if (const auto* map = std::get_if<TDepthList>(&source)) {
+    return {LevelsOf(*map), SourceKind::kShape};
+  }
+  return {kFigureLevels, SourceKind::kShape};
+}
+
+// The settings with a depth range that shows the source. Prints the range as options.
+Outcome<TSirdsSettings> FittedSettings(const Source& source, TSirdsSettings settings) {
+  const auto [levels, kind] = LevelsIn(source, settings.depthSel);
+  const FittedRange range = FitDepthRange(levels, kind, settings);
+  settings.zmin = range.zmin;
+  settings.zmax = range.zmax;
+  return Print("--zmin " + std::to_string(range.zmin) + " --zmax " + std::to_string(range.zmax) +
+               "\n")
+      .map([&] { return settings; });
+}
+
 // The stereogram of the source, which is released before this returns.
 Outcome<IndexedImage> MakeStereogram(const MakeOptions& options) {
-  const auto source = OpenSource(options.source);
+  const auto source = OpenSource(options.source, options.run.Threads());
   if (!source) return tl::unexpected(source.error());
-  const auto pattern = OpenPattern(options.pattern);
+  const auto pattern = OpenPattern(options.pattern, options.run.Threads());
   if (!pattern) return tl::unexpected(pattern.error());
   IndexedImage background;
   if (!options.background.empty()) {
-    auto picture = ReadPicture(options.background);
+    auto picture = ReadPicture(options.background, options.run.Threads());
     if (!picture) return picture;
     background = std::move(*picture);
   }
 
+  Outcome<TSirdsSettings> settings = options.settings;
+  if (options.fit) settings = FittedSettings(*source, options.settings);
+  if (!settings) return tl::unexpected(settings.error());
   TerminalMonitor monitor(options.run.quiet);
-  const RunInput input{*pattern, options.settings, monitor, options.run.Threads()};
+  const RunInput input{*pattern, *settings, monitor, options.run.Threads()};
   Result<IndexedImage> result;
   if (const auto* picture = std::get_if<IndexedImage>(&*source)) {
     result = MakeSirdFromBitmap(*picture, 1.0, input);
@@ -74,7 +102,7 @@ Outcome<void> Make(const MakeOptions& options) {
   if (auto checked = CheckOptions(options); !checked) return checked;
   const auto stereogram = MakeStereogram(options);
   if (!stereogram) return tl::unexpected(stereogram.error());
-  return WriteOutput(options.out, *stereogram);
+  return WriteOutput(options.out, *stereogram, options.run.Threads());
 }
 
 }  // namespace
@@ -82,7 +110,7 @@ Outcome<void> Make(const MakeOptions& options) {
 void AddMakeCommand(CLI::App& program, Task& task) {
   CLI::App* command = program.add_subcommand("make", "Make a stereogram");
   auto options = std::make_shared<MakeOptions>();
-  AddOperand(*command, "SOURCE", options->source, kSourceHelp);
+  AddOperand(*command, "SOURCE", options->source, SourceHelp());
   AddOutput(*command, options->out, OutputKind::kPicture);
   command
       ->add_option("--pattern", options->pattern,
@@ -90,6 +118,9 @@ void AddMakeCommand(CLI::App& program, Task& task) {
                    "of 'sirds patterns' (default 0)")
       ->option_text("FILE|NUMBER");
   AddScanOptions(*command, options->settings);
+  command->add_flag("--fit", options->fit,
+                    "When the depth range does not show all levels of the\n"
+                    "source, take one that does; prints the range used");
   AddDepthBy(*command, options->settings);
   AddMarkers(*command, options->settings);
   options->figureOnly = AddFigureOptions(*command, options->settings);

@@ -4,7 +4,10 @@
 #include <algorithm>
 #include <charconv>
 #include <string_view>
-#include <thread>
+
+#include "platform/parallel_for.h"
+
+#include "engine/scan_method.h"
 
 namespace plenovia {
 
@@ -71,10 +74,12 @@ CLI::Option* AddChoice(CLI::App& command, const std::string& name, std::int32_t&
 }
 
 ScanOptions AddScanOptions(CLI::App& command, TSirdsSettings& settings) {
+  Words methods;
+  for (const ScanMethod* method : ScanMethods()) {
+    methods.emplace_back(method->name, static_cast<std::int32_t>(methods.size()) + 1);
+  }
   ScanOptions options;
-  options.scan = AddChoice(
-      command, "--scan", settings.scanMethod,
-      {{"left-to-right", kLeftToRight}, {"mcmahon", kMcMahon}, {"feucht", kFeucht}}, "Scan method");
+  options.scan = AddChoice(command, "--scan", settings.scanMethod, methods, "Scan method");
   options.gap = AddNumber(command, "--gap", settings.gapValue, kSmallestGap, kLargestGap,
                           "Pixels between two repeats of the far plane");
   options.zmin = AddNumber(command, "--zmin", settings.zmin, -kDeepest, kDeepest,
@@ -116,8 +121,7 @@ void AddMarkers(CLI::App& command, TSirdsSettings& settings) {
 }
 
 int RunOptions::Threads() const {
-  if (threads > 0) return threads;
-  return static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
+  return static_cast<int>(WorkerCount(threads));
 }
 
 void AddRunOptions(CLI::App& command, RunOptions& options) {

@@ -12,7 +12,7 @@ enum class ExitStatus { kDone = 0, kFailed = 1, kWrongUsage = 2 };
 
 struct Complaint {
   ExitStatus status = ExitStatus::kFailed;
-  std::string message;  // without a final stop
+  std::string message;
 };
 
 template <class T>
@@ -22,8 +22,12 @@ using Outcome = tl::expected<T, Complaint>;
 tl::unexpected<Complaint> Failed(const std::string& subject, const Error& error);
 tl::unexpected<Complaint> WrongUsage(std::string message);
 
-// One line on standard error that begins with "sirds: ". Control characters become "?".
+// One line on standard error that begins with "sirds: ". The text is sanitised: control characters
+// become "?".
 void Report(const Complaint& complaint);
+
+// One line on standard error about a file that is used although something is wrong with it.
+void Warn(const std::string& file, const std::string& what);
 
 // Puts the text on standard output. Fails when it cannot be written there.
 [[nodiscard]] Outcome<void> Print(const std::string& text);

@@ -13,7 +13,7 @@ class App;
 namespace plenovia {
 
 enum class OutputKind {
-  kPicture,  // .bmp, .pcx, .gif, .jpg, .jpeg or .png
+  kPicture,  // the formats of pictures that are written
   kGray,     // also .pgm
 };
 
@@ -22,7 +22,8 @@ void AddOutput(CLI::App& command, std::string& out, OutputKind kind);
 
 // Writes the picture in the format that the extension names; the pixels of a .pgm are the grays.
 // A file that was there is replaced in one step, or stays as it was when anything fails. Nothing is
-// written once a stop signal came.
-[[nodiscard]] Outcome<void> WriteOutput(const std::string& out, const IndexedImage& picture);
+// written once a stop signal came. At most `threads` work.
+[[nodiscard]] Outcome<void> WriteOutput(const std::string& out, const IndexedImage& picture,
+                                        int threads);
 
 }  // namespace plenovia

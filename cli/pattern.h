@@ -1,19 +1,20 @@
 // The tile that a stereogram is made of: what the command line calls a pattern.
 #pragma once
 
-#include <filesystem>
 #include <string>
+#include <vector>
 
 #include "cli/outcome.h"
+#include "images/pattern_files.h"
 #include "platform/indexed_image.h"
 
 namespace plenovia {
 
 // A text of digits is the number of a file of the pattern library (a number that it does not have
 // is wrong usage), any other one is a picture file. Nothing but the one tile is read.
-[[nodiscard]] Outcome<IndexedImage> OpenPattern(const std::string& text);
+[[nodiscard]] Outcome<IndexedImage> OpenPattern(const std::string& text, int threads);
 
-// Where the pattern library lies.
-[[nodiscard]] Outcome<std::filesystem::path> PatternFolder();
+// The files of the pattern library, by number; never none.
+[[nodiscard]] Outcome<std::vector<PatternFile>> PatternLibrary();
 
 }  // namespace plenovia

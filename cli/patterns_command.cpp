@@ -4,25 +4,19 @@
 #include "cli/commands.h"
 #include "cli/pattern.h"
 #include "cli/source.h"
-#include "images/pattern_files.h"
 
 namespace plenovia {
 
 namespace {
 
 Outcome<void> ListPatterns() {
-  const auto folder = PatternFolder();
-  if (!folder) return tl::unexpected(folder.error());
+  const auto library = PatternLibrary();
+  if (!library) return tl::unexpected(library.error());
   std::string lines;
-  for (int number = 0; number < kMostPatternFiles; ++number) {
-    const auto file = FindPatternFile(number, *folder, UserPatternFolder());
-    if (!file) {
-      if (number < kShippedPatterns) continue;
-      break;
-    }
-    const auto tile = ReadPicture(file->string());
-    if (!tile) return tl::unexpected(tile.error());
-    lines += std::to_string(number) + '\t' + PatternFileName(number) + '\t' +
+  for (const PatternFile& file : *library) {
+    const auto tile = ReadPicture(file.path.string());
+    if (!tile) continue;
+    lines += std::to_string(file.number) + '\t' + PatternFileName(file.number) + '\t' +
              std::to_string(tile->width()) + 'x' + std::to_string(tile->height()) + '\n';
   }
   return Print(lines);
@@ -34,7 +28,7 @@ void AddPatternsCommand(CLI::App& program, Task& task) {
   CLI::App* command = program.add_subcommand("patterns", "List the patterns");
   command->footer(
       "Prints a line for each: its number, which 'sirds make --pattern' takes, a tab, its\n"
-      "file, a tab, its size.");
+      "file, a tab, its size. Files that cannot be read are left out.");
   command->callback([&task] { task = ListPatterns; });
 }
 

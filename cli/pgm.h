@@ -7,8 +7,8 @@
 
 namespace plenovia {
 
-// The binary form (P5) with 255 as white. The pixels are written as they are, whatever the palette
-// says; the picture must outlive the result.
+// The binary form (P5) with 255 as white. The pixels are written as they are, without regard to the
+// palette says; the picture must outlive the result.
 [[nodiscard]] Result<EncodedPicture> EncodePgm(const IndexedImage& picture);
 
 }  // namespace plenovia

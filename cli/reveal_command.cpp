@@ -14,6 +14,7 @@
 #include "cli/output.h"
 #include "cli/source.h"
 #include "cli/terminal_monitor.h"
+#include "codec/picture_format.h"
 #include "engine/reveal.h"
 #include "engine/separation.h"
 
@@ -85,10 +86,9 @@ struct Finding {
   double certain = 0;    // share of the pixels inside
 };
 
-Result<Finding> Draw(const RevealedDepth& depth, const RevealCommandOptions& options,
-                     const Columns& inside) {
-  auto picture = IndexedImage::Create(depth.width, depth.height, Palette::Grays());
-  if (!picture) return tl::unexpected(picture.error());
+// Draws over the stereogram, as a large picture takes time and memory.
+Finding Draw(const RevealedDepth& depth, const RevealCommandOptions& options, const Columns& inside,
+             IndexedImage picture) {
   const auto forEachInside = [&](const auto& visit) {
     const auto width = static_cast<std::size_t>(depth.width);
     for (std::size_t row = 0; row < depth.separation.size(); row += width) {
@@ -101,11 +101,17 @@ Result<Finding> Draw(const RevealedDepth& depth, const RevealCommandOptions& opt
   });
   const Grays grays =
       options.Levels() ? LevelGrays(depth, options.settings) : StretchedGrays(depth, counts);
-  picture->Fill(0);
-  forEachInside([&](std::size_t at) { picture->pixels()[at] = grays[depth.separation[at]]; });
+  picture.SetPalette(Palette::Grays());
+  for (int y = 0; y < depth.height; ++y) {
+    const auto row = picture.Row(y);
+    const std::uint16_t* found = depth.separation.data() + row.size() * static_cast<std::size_t>(y);
+    std::ranges::fill(row.first(inside.begin), std::uint8_t{0});
+    for (std::size_t x = inside.begin; x < inside.end; ++x) row[x] = grays[found[x]];
+    std::ranges::fill(row.subspan(inside.end), std::uint8_t{0});
+  }
   const auto certain = std::accumulate(counts.begin(), counts.end(), std::size_t{0});
   const auto pixels = (inside.end - inside.begin) * static_cast<std::size_t>(depth.height);
-  return Finding{std::move(*picture), static_cast<double>(certain) / static_cast<double>(pixels)};
+  return Finding{std::move(picture), static_cast<double>(certain) / static_cast<double>(pixels)};
 }
 
 std::string CertainLine(double share) {
@@ -116,18 +122,18 @@ std::string CertainLine(double share) {
 
 Outcome<void> RevealDepth(const RevealCommandOptions& options) {
   if (auto range = CheckDepthRange(options.settings); !range) return range;
-  const auto picture = ReadPicture(options.picture);
+  auto picture = ReadPicture(options.picture, options.run.Threads());
   if (!picture) return tl::unexpected(picture.error());
   TerminalMonitor monitor(options.run.quiet);
   RevealOptions search;
-  search.anchor = AnchorOf(options.settings.scanMethod);
+  search.anchor = ScanMethodOf(options.settings.scanMethod).anchor;
   search.threads = options.run.Threads();
   const auto depth = Reveal(*picture, search, monitor);
   if (!depth) return Failed(options.picture, depth.error());
-  const auto finding = Draw(*depth, options, ColumnsInside(*depth, search.anchor));
-  if (!finding) return Failed(options.out, finding.error());
-  return WriteOutput(options.out, finding->picture).and_then([&] {
-    return Print(CertainLine(finding->certain));
+  const Finding finding =
+      Draw(*depth, options, ColumnsInside(*depth, search.anchor), std::move(*picture));
+  return WriteOutput(options.out, finding.picture, options.run.Threads()).and_then([&] {
+    return Print(CertainLine(finding.certain));
   });
 }
 
@@ -137,7 +143,7 @@ void AddRevealCommand(CLI::App& program, Task& task) {
   CLI::App* command =
       program.add_subcommand("reveal", "Find the depth in a stereogram, ours or anyone's");
   auto options = std::make_shared<RevealCommandOptions>();
-  AddOperand(*command, "PICTURE", options->picture, "A stereogram (BMP, PCX, GIF, JPEG or PNG)");
+  AddOperand(*command, "PICTURE", options->picture, "A stereogram (" + ReadableNames() + ")");
   AddOutput(*command, options->out, OutputKind::kGray);
   options->scan = AddScanOptions(*command, options->settings);
   AddRunOptions(*command, options->run);

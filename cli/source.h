@@ -20,24 +20,23 @@ struct Figure {
 using Source = std::variant<IndexedImage, TDepthList, Figure>;
 
 // The words of help for a SOURCE.
-inline constexpr char kSourceHelp[] =
-    "A picture (BMP, PCX, GIF, JPEG or PNG), a depth map\n"
-    "(.rds), figure:NUMBER or figure:TITLE";
+std::string SourceHelp();
 
 // Whether the text begins as a figure does. A file of such a name is reached as "./figure:...".
 bool NamesFigure(const std::string& text);
 
-// A picture or a depth map, whichever the content of the file is.
+// A picture or a depth map, whichever the content of the file is. Of a damaged file what can be
+// read, with a warning; `threads` may work on it, or one a processor when that is 0.
 struct OpenedFile {
   Source source;
   std::string format;  // such as "GIF"; "RDS" for a depth map
 };
-[[nodiscard]] Outcome<OpenedFile> OpenFile(const std::string& file);
+[[nodiscard]] Outcome<OpenedFile> OpenFile(const std::string& file, int threads = 0);
 
 // A file or a figure.
-[[nodiscard]] Outcome<Source> OpenSource(const std::string& text);
+[[nodiscard]] Outcome<Source> OpenSource(const std::string& text, int threads);
 
-// Reads a picture of any format that the program knows.
-[[nodiscard]] Outcome<IndexedImage> ReadPicture(const std::string& file);
+// Reads a picture of any format that the program knows, as OpenFile() does.
+[[nodiscard]] Outcome<IndexedImage> ReadPicture(const std::string& file, int threads = 0);
 
 }  // namespace plenovia

@@ -1,8 +1,8 @@
 # plenovia_module(NAME [SHARED] SOURCES ... [HEADERS ...] [LINK ...] [PUBLIC_LINK ...])
 #
-# Makes the library NAME of one room. Includes are written from the project's root. In builds
-# with tests (but not again under sanitizers) each header named in HEADERS is also compiled alone, so
-# that it includes what it uses.
+# Makes the library NAME of one room. Includes are written from the project's root. With
+# PLENOVIA_LONE_HEADERS each header named in HEADERS is also compiled alone, so that it includes what
+# it uses.
 function(plenovia_module name)
   cmake_parse_arguments(arg "SHARED" "" "SOURCES;HEADERS;LINK;PUBLIC_LINK" ${ARGN})
   set(kind STATIC)
@@ -10,9 +10,9 @@ function(plenovia_module name)
     set(kind SHARED)
   endif()
   set(alone)
-  set(probed ${arg_HEADERS})
-  if(NOT PLENOVIA_TESTS OR PLENOVIA_SANITIZE)
-    set(probed)
+  set(probed)
+  if(PLENOVIA_LONE_HEADERS)
+    set(probed ${arg_HEADERS})
   endif()
   foreach(header IN LISTS probed)
     set(probe ${CMAKE_CURRENT_BINARY_DIR}/compiles_alone/${header}.cpp)
@@ -65,6 +65,12 @@ function(plenovia_install_compressed file folder)
   install(FILES ${compressed} DESTINATION ${folder})
 endfunction()
 
+# plenovia_test_options(NAME): a test program is quicker to compile than to run with all
+# optimisations.
+function(plenovia_test_options name)
+  target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O1>)
+endfunction()
+
 # plenovia_test(NAME SOURCES ... LINK ...)
 #
 # Makes the GoogleTest program NAME of one room and registers it with CTest. It links that room
@@ -75,6 +81,7 @@ function(plenovia_test name)
   endif()
   plenovia_executable(${name} ${ARGN})
   target_link_libraries(${name} PRIVATE plenovia_testing GTest::gtest_main)
+  plenovia_test_options(${name})
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT 600)
 endfunction()

@@ -11,10 +11,10 @@ namespace {
 
 Result<void> CheckRow(std::size_t pixels, int bits, std::size_t rowBytes) {
   if (bits != 1 && bits != 4 && bits != 8) {
-    return Failure(ErrorCode::kInvalid, "a row has 1, 4 or 8 bits a pixel");
+    return Failure(ErrorCode::kInvalid, "A row has 1, 4 or 8 bits a pixel.");
   }
   if (rowBytes < PackedBytes(pixels, bits)) {
-    return Failure(ErrorCode::kInvalid, "a row is too short for its pixels");
+    return Failure(ErrorCode::kInvalid, "A row is too short for its pixels.");
   }
   return {};
 }

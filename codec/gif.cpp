@@ -35,9 +35,8 @@ int ReadBytes(GifFileType* file, GifByteType* to, int count) {
   return count > 0 && bytes.Take(to, static_cast<std::size_t>(count)) ? count : 0;
 }
 
-tl::unexpected<Error> Damaged(const ByteReader& bytes) {
-  return Failure(ErrorCode::kCorrupt,
-                 bytes.truncated() ? "the file is truncated" : "the GIF file is damaged");
+const char* Damage(const ByteReader& bytes) {
+  return bytes.truncated() ? kTruncated : "The GIF file is damaged.";
 }
 
 // Passes an extension; remembers the transparent colour if it names one.
@@ -76,17 +75,26 @@ Palette PaletteOf(const ColorMapObject* map) {
   return Palette(colours);
 }
 
-bool ReadPixels(GifFileType* file, int codeBits, std::span<std::uint8_t> pixels) {
-  const auto nextCode = [&] {
-    int code = -1;
-    return DGifGetLZCodes(file, &code) == GIF_OK ? code : -1;
-  };
-  if (codeBits < 1 || codeBits > 8 || !ExpandLzw(codeBits, nextCode, pixels)) return false;
+// Reads the frame's pixels and returns how many there are.
+std::size_t ReadPixels(GifFileType* file, int codeBits, std::span<std::uint8_t> pixels) {
+  if (codeBits < 1 || codeBits > 8) return 0;
+  return ExpandLzw(
+      codeBits,
+      [&] {
+        int code = -1;
+        return DGifGetLZCodes(file, &code) == GIF_OK ? code : -1;
+      },
+      pixels);
+}
+
+// Whether the frame's blocks end, and another record follows or the mark of the end.
+bool EndsWell(GifFileType* file) {
   GifByteType* rest = nullptr;
   do {
     if (DGifGetCodeNext(file, &rest) == GIF_ERROR) return false;
   } while (rest != nullptr);
-  return true;
+  GifRecordType record = UNDEFINED_RECORD_TYPE;
+  return DGifGetRecordType(file, &record) == GIF_OK;
 }
 
 // The rows of an interlaced frame in the order of the file.
@@ -145,11 +153,22 @@ bool LooksLikeGif(std::span<const std::uint8_t> bytes) {
   return start == "GIF87a" || start == "GIF89a";
 }
 
-Result<IndexedImage> DecodeGif(std::span<const std::uint8_t> bytes) {
+std::string_view GifLibrary() {
+#define PLENOVIA_TEXT_OF(number) #number
+#define PLENOVIA_TEXT(number) PLENOVIA_TEXT_OF(number)
+  return "giflib " PLENOVIA_TEXT(GIFLIB_MAJOR) "." PLENOVIA_TEXT(GIFLIB_MINOR) "." PLENOVIA_TEXT(
+      GIFLIB_RELEASE);
+#undef PLENOVIA_TEXT
+#undef PLENOVIA_TEXT_OF
+}
+
+Result<DecodedPicture> DecodeGif(std::span<const std::uint8_t> bytes) {
   ByteReader source(bytes);
   const Reader file(LooksLikeGif(bytes) ? DGifOpen(&source, ReadBytes, nullptr) : nullptr);
   std::optional<int> transparent;
-  if (!file || !FindFrame(file.get(), transparent)) return Damaged(source);
+  if (!file || !FindFrame(file.get(), transparent)) {
+    return Failure(ErrorCode::kCorrupt, Damage(source));
+  }
   const int codeBits = bytes[source.position() - 1];
 
   const GifImageDesc& place = file->Image;
@@ -162,34 +181,35 @@ Result<IndexedImage> DecodeGif(std::span<const std::uint8_t> bytes) {
   }
   const std::size_t area = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
   if (area / kMostGifPixelsPerByte > bytes.size()) {
-    return Failure(ErrorCode::kCorrupt, "the file is too short for its size in pixels");
+    return Failure(ErrorCode::kCorrupt, "The file is too short for its size in pixels.");
   }
 
   auto frame = IndexedImage::Create(place.Width, place.Height, palette);
-  if (!frame) return frame;
+  if (!frame) return tl::unexpected(frame.error());
   const bool plain = !place.Interlace && place.Width == width && place.Height == height;
   if (!plain && area + frame->pixels().size() > kMostPixelsInTwo) {
-    return Failure(ErrorCode::kTooLarge, "the picture needs too much memory");
+    return Failure(ErrorCode::kTooLarge, "The picture needs too much memory.");
   }
-  if (!ReadPixels(file.get(), codeBits, frame->pixels())) return Damaged(source);
-  // Another record must follow, or the mark of the end.
-  GifRecordType record = UNDEFINED_RECORD_TYPE;
-  DGifGetRecordType(file.get(), &record);
-  if (source.truncated()) return Damaged(source);
-  if (plain) return frame;
+  const int background = transparent.value_or(local ? 0 : file->SBackGroundColor);
+  const auto around = static_cast<std::uint8_t>(background < palette.size() ? background : 0);
+  const std::size_t read = ReadPixels(file.get(), codeBits, frame->pixels());
+  if (read == 0) return Failure(ErrorCode::kCorrupt, Damage(source));
+  std::ranges::fill(frame->pixels().subspan(read), around);
+  const bool whole = read == frame->pixels().size() && EndsWell(file.get()) && !source.truncated();
+  std::string damage = whole ? "" : Damage(source);
+  if (plain) return DecodedPicture(std::move(*frame), std::move(damage));
 
   auto picture = IndexedImage::Create(width, height, palette);
-  if (!picture) return picture;
-  const int around = transparent.value_or(local ? 0 : file->SBackGroundColor);
-  picture->Fill(static_cast<std::uint8_t>(around < palette.size() ? around : 0));
+  if (!picture) return tl::unexpected(picture.error());
+  picture->Fill(around);
   PlaceFrame(place, *frame, *picture);
-  return picture;
+  return DecodedPicture(std::move(*picture), std::move(damage));
 }
 
-Result<EncodedPicture> EncodeGif(const IndexedImage& picture) {
-  if (picture.empty()) return Failure(ErrorCode::kInvalid, "there is no picture to write");
+Result<EncodedPicture> EncodeGif(const IndexedImage& picture, int threads) {
+  if (picture.empty()) return Failure(ErrorCode::kInvalid, "There is no picture to write.");
   const auto noMemory = [] {
-    return Failure(ErrorCode::kTooLarge, "there is not enough memory to write the GIF file");
+    return Failure(ErrorCode::kTooLarge, "There is not enough memory to write the GIF file.");
   };
   const auto highest = std::max_element(picture.pixels().begin(), picture.pixels().end());
   const int bits = GifBitSize(std::max({2, picture.palette().size(), *highest + 1}));
@@ -202,7 +222,7 @@ Result<EncodedPicture> EncodeGif(const IndexedImage& picture) {
   }
   ByteBuffer codes;
   try {
-    codes = CompressLzw(std::max(2, bits), picture.pixels());
+    codes = CompressLzw(std::max(2, bits), picture.pixels(), threads);
   } catch (const std::bad_alloc&) {
     return noMemory();
   }

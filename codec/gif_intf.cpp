@@ -9,7 +9,7 @@ namespace plenovia {
 Result<IndexedImage> TGifIntf::Read_File(const std::filesystem::path& path) {
   const auto bytes = ReadFile(path);
   if (!bytes) return tl::unexpected(bytes.error());
-  if (!LooksLikeGif(*bytes)) return Failure(ErrorCode::kUnsupported, "is not a GIF file");
+  if (!LooksLikeGif(*bytes)) return Failure(ErrorCode::kUnsupported, "The file is not a GIF file.");
   return DecodePicture(*bytes);
 }
 

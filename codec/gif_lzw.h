@@ -17,10 +17,11 @@ inline constexpr int kLzwCodes = 4096;
 inline constexpr std::size_t kMostGifPixelsPerByte = 4096 * 8 / 12;
 
 // Fills `pixels` from the codes that `nextCode()` gives: the code, or a negative number when there
-// is none. `codeBits` (1..8) is the width of a pixel. False when the codes end too early or name
-// strings that do not exist. Every string has occurred in the pixels, so none is stored.
+// is none. `codeBits` (1..8) is the width of a pixel. Returns how many pixels there are: fewer than
+// wanted when the codes end too early or name strings that do not exist. Every string has occurred
+// in the pixels, so none is stored.
 template <class NextCode>
-bool ExpandLzw(int codeBits, NextCode nextCode, std::span<std::uint8_t> pixels) {
+std::size_t ExpandLzw(int codeBits, NextCode nextCode, std::span<std::uint8_t> pixels) {
   struct String {
     std::size_t start = 0;
     std::size_t length = 0;
@@ -33,7 +34,7 @@ bool ExpandLzw(int codeBits, NextCode nextCode, std::span<std::uint8_t> pixels) 
   std::size_t codesLeft = 2 * pixels.size() + 2;  // more would be nothing but clear codes
   while (done < pixels.size()) {
     const int code = codesLeft-- > 0 ? nextCode() : -1;
-    if (code < 0) return false;
+    if (code < 0) break;
     if (code == clear) {
       next = clear + 2;
       previous = {};
@@ -47,7 +48,7 @@ bool ExpandLzw(int codeBits, NextCode nextCode, std::span<std::uint8_t> pixels) 
       previous = {done++, 1};
       continue;
     }
-    if (code == clear + 1 || code >= next) return false;
+    if (code == clear + 1 || code >= next) break;
     const String string = strings[static_cast<std::size_t>(code)];
     const std::size_t length = std::min(string.length, pixels.size() - done);
     if (string.start + length <= done) {
@@ -58,7 +59,7 @@ bool ExpandLzw(int codeBits, NextCode nextCode, std::span<std::uint8_t> pixels) 
     previous = {done, length};
     done += length;
   }
-  return true;
+  return done;
 }
 
 }  // namespace plenovia

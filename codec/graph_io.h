@@ -6,20 +6,18 @@
 #include <span>
 #include <string>
 
-#include "codec/encoded_picture.h"
-#include "codec/graphic_format.h"
-#include "platform/indexed_image.h"
+#include "codec/picture_format.h"
 #include "platform/result.h"
 
 namespace plenovia {
 
-// The format that the bytes are in, by their content; kUnknown when no reader knows them.
-GraphicFormat DetectFormat(std::span<const std::uint8_t> bytes);
-// The picture in the bytes of a file of any format. kUnsupported when no reader knows them.
-[[nodiscard]] Result<IndexedImage> DecodePicture(std::span<const std::uint8_t> bytes);
-// kUnsupported for formats that are not picture files.
+// The picture in the bytes of a file of any format. kUnsupported when no reader knows them. At most
+// `threads` work on it, here and when it is encoded, or one a processor when that is 0.
+[[nodiscard]] Result<DecodedPicture> DecodePicture(std::span<const std::uint8_t> bytes,
+                                                   int threads = 0);
+// kUnsupported for formats that are not written.
 [[nodiscard]] Result<EncodedPicture> EncodePicture(GraphicFormat format,
-                                                   const IndexedImage& picture);
+                                                   const IndexedImage& picture, int threads = 0);
 
 // A picture as memory without compression would hold it.
 struct BitmapInfo {
@@ -37,7 +35,7 @@ class TGraphIO {
   // no reader knows it.
   static int GetGraphicFormat(const std::filesystem::path& path);
   // Reads a picture file of any format.
-  [[nodiscard]] Result<IndexedImage> Read_File(const std::filesystem::path& path);
+  [[nodiscard]] Result<DecodedPicture> Read_File(const std::filesystem::path& path);
   // Of the picture read last; one black entry before.
   const Palette& GetPalette() const { return palette_; }
 

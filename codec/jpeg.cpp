@@ -26,8 +26,8 @@ Result<IndexedImage> ReadGray(JpegReader& file) {
   return picture;
 }
 
-Result<IndexedImage> ReadColours(JpegReader& file) {
-  if (const auto kept = KeptColours::Create(file.width(), file.height())) {
+Result<IndexedImage> ReadColours(JpegReader& file, int threads) {
+  if (const auto kept = KeptColours::Create(file.width(), file.height(), threads)) {
     const auto read =
         file.ReadRows([&](int, std::span<const std::uint8_t> row) { kept->Add(row); });
     if (!read) return tl::unexpected(read.error());
@@ -106,14 +106,24 @@ bool LooksLikeJpeg(std::span<const std::uint8_t> bytes) {
   return bytes.size() >= 3 && bytes[0] == 0xff && bytes[1] == 0xd8 && bytes[2] == 0xff;
 }
 
-Result<IndexedImage> DecodeJpeg(std::span<const std::uint8_t> bytes) {
+std::string_view JpegLibrary() {
+#define PLENOVIA_TEXT_OF(number) #number
+#define PLENOVIA_TEXT(number) PLENOVIA_TEXT_OF(number)
+  return "libjpeg-turbo " PLENOVIA_TEXT(LIBJPEG_TURBO_VERSION);
+#undef PLENOVIA_TEXT
+#undef PLENOVIA_TEXT_OF
+}
+
+Result<DecodedPicture> DecodeJpeg(std::span<const std::uint8_t> bytes, int threads) {
   JpegReader file(bytes);
   if (auto opened = file.Open(); !opened) return tl::unexpected(opened.error());
-  return file.gray() ? ReadGray(file) : ReadColours(file);
+  auto picture = file.gray() ? ReadGray(file) : ReadColours(file, threads);
+  if (!picture) return tl::unexpected(picture.error());
+  return DecodedPicture(std::move(*picture), file.Damage());
 }
 
 Result<EncodedPicture> EncodeJpeg(const IndexedImage& picture) {
-  if (picture.empty()) return Failure(ErrorCode::kInvalid, "there is no picture to write");
+  if (picture.empty()) return Failure(ErrorCode::kInvalid, "There is no picture to write.");
   const auto entries = picture.palette().entries();
   const bool gray = std::all_of(entries.begin(), entries.end(),
                                 [](Rgb c) { return c.red == c.green && c.green == c.blue; });
@@ -144,7 +154,7 @@ Result<EncodedPicture> EncodeJpeg(const IndexedImage& picture) {
   jpeg_destroy_compress(&info);
   if (!written) return tl::unexpected(errors.LastError());
   if (destination.full) {
-    return Failure(ErrorCode::kTooLarge, "there is not enough memory to write the JPEG file");
+    return Failure(ErrorCode::kTooLarge, "There is not enough memory to write the JPEG file.");
   }
   return EncodedPicture(std::move(destination.bytes));
 }

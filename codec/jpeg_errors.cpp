@@ -2,11 +2,15 @@
 
 #include <jerror.h>
 
+#include "codec/decoded_picture.h"
+
 namespace plenovia {
 
 namespace {
 
-// Warnings of files that are whole all the same.
+constexpr char kDamaged[] = "The JPEG file is damaged.";
+
+// Warnings of files whose pixels are whole.
 bool IsHarmless(int warning) {
   return warning == JWRN_ADOBE_XFORM || warning == JWRN_BOGUS_ICC ||
          warning == JWRN_EXTRANEOUS_DATA || warning == JWRN_JFIF_MAJOR ||
@@ -26,26 +30,28 @@ void JpegErrors::Exit(j_common_ptr info) {
 }
 
 void JpegErrors::Message(j_common_ptr info, int level) {
-  if (level < 0 && !IsHarmless(info->err->msg_code)) Exit(info);
+  int& warning = reinterpret_cast<Errors*>(info->err)->warning;
+  if (level < 0 && warning == 0 && !IsHarmless(info->err->msg_code)) warning = info->err->msg_code;
+}
+
+std::string JpegErrors::Damage() const {
+  const int warning = errors_.warning;
+  if (warning == 0) return "";
+  return warning == JWRN_HIT_MARKER || warning == JWRN_JPEG_EOF ? kTruncated : kDamaged;
 }
 
 Error JpegErrors::LastError() const {
   switch (errors_.base.msg_code) {
-    case JERR_INPUT_EOF:
-    case JERR_INPUT_EMPTY:
-    case JWRN_HIT_MARKER:
-    case JWRN_JPEG_EOF:
-      return {ErrorCode::kCorrupt, "the file is truncated"};
     case JERR_OUT_OF_MEMORY:
     case JERR_NO_BACKING_STORE:
-      return {ErrorCode::kTooLarge, "the JPEG picture needs too much memory"};
+      return {ErrorCode::kTooLarge, "The JPEG picture needs too much memory."};
     case JERR_ARITH_NOTIMPL:
     case JERR_BAD_PRECISION:
     case JERR_CONVERSION_NOTIMPL:
     case JERR_SOF_UNSUPPORTED:
-      return {ErrorCode::kUnsupported, "this kind of JPEG file is not supported"};
+      return {ErrorCode::kUnsupported, "This kind of JPEG file is not supported."};
     default:
-      return {ErrorCode::kCorrupt, "the JPEG file is damaged"};
+      return {ErrorCode::kCorrupt, errors_.warning == JWRN_JPEG_EOF ? kTruncated : kDamaged};
   }
 }
 

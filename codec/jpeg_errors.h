@@ -12,8 +12,8 @@
 
 namespace plenovia {
 
-// The library's error manager. A fatal error, and any warning that means damaged pixels, jumps back
-// to the Guarded() call that is under way.
+// The library's error manager. A fatal error jumps back to the Guarded() call that is under way; of
+// the warnings that mean damaged pixels the first is kept.
 class JpegErrors {
  public:
   JpegErrors();
@@ -32,11 +32,14 @@ class JpegErrors {
   }
   // What the last failed call met.
   Error LastError() const;
+  // What the first such warning was about; empty when there was none.
+  std::string Damage() const;
 
  private:
   struct Errors {
     jpeg_error_mgr base;  // the first member, so that the library's pointer leads here
     std::jmp_buf jump;
+    int warning;  // 0 for none
   };
   [[noreturn]] static void Exit(j_common_ptr info);
   static void Message(j_common_ptr info, int level);

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 
+#include "codec/decoded_picture.h"
 #include "platform/limits.h"
 
 namespace plenovia {
@@ -48,15 +49,18 @@ JpegReader::~JpegReader() {
   jpeg_destroy_decompress(&info_);
 }
 
+// The end of the picture stands in for what is missing.
 boolean JpegReader::NoMoreBytes(j_decompress_ptr info) {
-  ERREXIT(info, JERR_INPUT_EOF);
-  return FALSE;
+  static constexpr JOCTET kEnd[] = {0xff, JPEG_EOI};
+  WARNMS(info, JWRN_JPEG_EOF);
+  info->src->next_input_byte = kEnd;
+  info->src->bytes_in_buffer = sizeof kEnd;
+  return TRUE;
 }
 
 void JpegReader::Skip(j_decompress_ptr info, long count) {
   if (count <= 0) return;
-  const auto skipped = static_cast<std::size_t>(count);
-  if (skipped > info->src->bytes_in_buffer) ERREXIT(info, JERR_INPUT_EOF);
+  const std::size_t skipped = std::min(static_cast<std::size_t>(count), info->src->bytes_in_buffer);
   info->src->next_input_byte += skipped;
   info->src->bytes_in_buffer -= skipped;
 }
@@ -79,8 +83,9 @@ Result<void> JpegReader::Open() {
   });
   if (!read) return tl::unexpected(errors_.LastError());
   if (auto fits = CheckLimits(); !fits) return fits;
-  if (info_.out_color_space == JCS_UNKNOWN || info_.arith_code == TRUE) {
-    return Failure(ErrorCode::kUnsupported, "this kind of JPEG file is not supported");
+  if (source_.bytes_in_buffer == 0) return Truncated();  // before the first pixel
+  if (info_.out_color_space == JCS_UNKNOWN) {
+    return Failure(ErrorCode::kUnsupported, "This kind of JPEG file is not supported.");
   }
   const auto channels = static_cast<std::size_t>(gray()                              ? 1
                                                  : info_.out_color_space == JCS_CMYK ? 4
@@ -93,18 +98,35 @@ Result<void> JpegReader::CheckLimits() {
   if (auto fits = CheckPictureSize(info_.image_width, info_.image_height); !fits) return fits;
   std::uint64_t blocks = 0;
   for (int i = 0; i < info_.num_components; ++i) blocks += Blocks(info_.comp_info[i]);
-  // Huffman codes spend at least one bit on the mean level of each block of 8 x 8 samples.
-  if (blocks / 8 > bytes_.size()) {
-    return Failure(ErrorCode::kCorrupt, "the file is too short for its size in pixels");
+  // Huffman codes spend at least one bit on the mean level of each block of 8 x 8 samples,
+  // arithmetic codes less.
+  if (blocks / (info_.arith_code == TRUE ? 512 : 8) > bytes_.size()) {
+    return Failure(ErrorCode::kCorrupt, "The file is too short for its size in pixels.");
   }
   const std::uint64_t pixels = std::uint64_t{info_.image_width} * info_.image_height;
   if (jpeg_has_multiple_scans(&info_) == TRUE && blocks * kBlockBytes + pixels > kMostMemory) {
-    return Failure(ErrorCode::kTooLarge, "the JPEG picture needs too much memory");
+    return Failure(ErrorCode::kTooLarge, "The JPEG picture needs too much memory.");
   }
   return {};
 }
 
+// Where a scan cannot be read any further the file is taken to end, and read anew.
 Result<void> JpegReader::ReadScans() {
+  constexpr int kTries = 4;
+  for (int i = 0;; ++i) {
+    auto read = ReadAllScans();
+    const std::size_t done = source_.next_input_byte < bytes_.data() ||
+                                     source_.next_input_byte > bytes_.data() + bytes_.size()
+                                 ? bytes_.size()
+                                 : bytes_.size() - source_.bytes_in_buffer;
+    if (read || read.error().code != ErrorCode::kCorrupt || i == kTries || done < 2) return read;
+    damage_ = read.error().message;
+    bytes_ = bytes_.first(std::min(done, bytes_.size() - 2));
+    if (!errors_.Guarded([this] { ReadHeader(); })) return read;
+  }
+}
+
+Result<void> JpegReader::ReadAllScans() {
   std::array<bool, MAX_COMPONENTS> seen{};
   std::uint64_t visits = 0;
   bool tooMany = false;
@@ -125,9 +147,9 @@ Result<void> JpegReader::ReadScans() {
     }
   });
   if (!read) return tl::unexpected(errors_.LastError());
-  if (tooMany) return Failure(ErrorCode::kTooLarge, "the JPEG file has too many scans");
+  if (tooMany) return Failure(ErrorCode::kTooLarge, "The JPEG file has too many scans.");
   if (std::count(seen.begin(), seen.end(), true) < info_.num_components) {
-    return Failure(ErrorCode::kCorrupt, "the JPEG file lacks a part of its picture");
+    damage_ = "The JPEG file lacks a part of its picture.";
   }
   scansRead_ = true;
   return {};
@@ -160,7 +182,16 @@ bool JpegReader::ReadRow() {
   return read;
 }
 
-Result<void> JpegReader::FinishPass() {
+std::string JpegReader::Damage() const {
+  return damage_.empty() ? errors_.Damage() : damage_;
+}
+
+void JpegReader::GiveUp() {
+  damage_ = errors_.LastError().message;
+  std::fill(row_.begin(), row_.end(), std::uint8_t{128});
+}
+
+void JpegReader::FinishPass() {
   const bool finished = errors_.Guarded([&] {
     if (scansRead_) {
       jpeg_finish_output(&info_);
@@ -168,8 +199,7 @@ Result<void> JpegReader::FinishPass() {
       jpeg_finish_decompress(&info_);
     }
   });
-  if (!finished) return tl::unexpected(errors_.LastError());
-  return {};
+  if (!finished) damage_ = errors_.LastError().message;
 }
 
 }  // namespace plenovia

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "codec/jpeg_errors.h"
@@ -25,16 +26,26 @@ class JpegReader {
   int height() const { return static_cast<int>(info_.image_height); }
   bool gray() const { return info_.out_color_space == JCS_GRAYSCALE; }
 
+  // What is wrong with the file as far as it was read; empty when nothing is.
+  std::string Damage() const;
+
   // Calls `useRow(y, bytes)` for each row from the top: a byte a pixel of a gray picture, else the
-  // bytes of red, green and blue. May be called again for another pass over the picture.
+  // bytes of red, green and blue; gray from where the file cannot be read any further. May be
+  // called again for another pass over the picture. Fails when there is no row at all.
   template <class UseRow>
   [[nodiscard]] Result<void> ReadRows(const UseRow& useRow) {
     if (auto started = StartPass(); !started) return started;
+    bool broken = false;
     for (int y = 0; y < height(); ++y) {
-      if (!ReadRow()) return tl::unexpected(errors_.LastError());
+      if (!broken && !ReadRow()) {
+        if (y == 0) return tl::unexpected(errors_.LastError());
+        broken = true;
+        GiveUp();
+      }
       useRow(y, std::span<const std::uint8_t>(row_));
     }
-    return FinishPass();
+    if (!broken) FinishPass();
+    return {};
   }
 
  private:
@@ -45,9 +56,11 @@ class JpegReader {
   void ReadHeader();
   [[nodiscard]] Result<void> CheckLimits();
   [[nodiscard]] Result<void> ReadScans();
+  [[nodiscard]] Result<void> ReadAllScans();
   [[nodiscard]] Result<void> StartPass();
   bool ReadRow();
-  [[nodiscard]] Result<void> FinishPass();
+  void GiveUp();
+  void FinishPass();
 
   std::span<const std::uint8_t> bytes_;
   JpegErrors errors_;
@@ -56,6 +69,7 @@ class JpegReader {
   bool scansRead_ = false;    // of a file of several scans, into the library's memory
   bool headerFresh_ = false;  // nothing after the header has been read
   std::vector<std::uint8_t> row_;
+  std::string damage_;
 };
 
 }  // namespace plenovia

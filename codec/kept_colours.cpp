@@ -4,7 +4,7 @@
 #include <new>
 #include <system_error>
 
-#include "platform/parts.h"
+#include "platform/parallel_for.h"
 
 namespace plenovia {
 
@@ -17,20 +17,21 @@ static_assert(sizeof(Rgb) == 3 && alignof(Rgb) == 1, "bytes of pixels are read a
 
 }  // namespace
 
-std::unique_ptr<KeptColours> KeptColours::Create(int width, int height) {
+std::unique_ptr<KeptColours> KeptColours::Create(int width, int height, int threads) {
   const std::size_t pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
   if (pixels < kLeastPixels || pixels > kMostBytes / sizeof(Rgb)) return nullptr;
   try {
-    return std::unique_ptr<KeptColours>(new KeptColours(width, height));
+    return std::unique_ptr<KeptColours>(new KeptColours(width, height, WorkerCount(threads)));
   } catch (const std::bad_alloc&) {
   } catch (const std::system_error&) {  // no thread
   }
   return nullptr;
 }
 
-KeptColours::KeptColours(int width, int height) : width_(width), height_(height) {
+KeptColours::KeptColours(int width, int height, std::size_t workers)
+    : width_(width), height_(height), workers_(workers) {
   colours_.resize(sizeof(Rgb) * static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
-  counting_ = std::thread([this] { CountRows(); });
+  if (workers_ > 1) counting_ = std::thread([this] { CountRows(); });
 }
 
 KeptColours::~KeptColours() {
@@ -59,6 +60,7 @@ void KeptColours::Add(std::span<const std::uint8_t> row) {
   const std::size_t rowBytes = sizeof(Rgb) * static_cast<std::size_t>(width_);
   std::copy_n(row.begin(), rowBytes,
               colours_.begin() + static_cast<std::ptrdiff_t>(rowBytes) * added_);
+  if (workers_ == 1) reducer_.Count(Row(added_));
   ++added_;
   if (added_ % kBandRows != 0 && added_ != height_) return;
   countable_ = added_;
@@ -66,7 +68,7 @@ void KeptColours::Add(std::span<const std::uint8_t> row) {
 }
 
 Result<IndexedImage> KeptColours::Reduce() {
-  counting_.join();
+  if (counting_.joinable()) counting_.join();
   reducer_.BuildPalette();
   auto picture = IndexedImage::Create(width_, height_, reducer_.palette());
   if (!picture) return picture;
@@ -74,8 +76,8 @@ Result<IndexedImage> KeptColours::Reduce() {
     const int end = std::min(height_, (band + 1) * kBandRows);
     for (int y = band * kBandRows; y < end; ++y) reducer_.Map(Row(y), picture->Row(y));
   };
-  static_cast<void>(ShareParts((height_ + kBandRows - 1) / kBandRows,
-                               std::thread::hardware_concurrency(), map, [](int) { return true; }));
+  static_cast<void>(
+      ParallelFor((height_ + kBandRows - 1) / kBandRows, workers_, map, [](int) { return true; }));
   return picture;
 }
 

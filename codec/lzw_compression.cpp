@@ -1,11 +1,10 @@
 #include "codec/lzw_compression.h"
 
 #include <algorithm>
-#include <thread>
 #include <utility>
 
 #include "codec/gif_lzw.h"
-#include "platform/parts.h"
+#include "platform/parallel_for.h"
 
 namespace plenovia {
 
@@ -112,11 +111,10 @@ void CompressPart(int codeBits, std::span<const std::uint8_t> pixels, StringTabl
 
 }  // namespace
 
-ByteBuffer CompressLzw(int codeBits, std::span<const std::uint8_t> pixels) {
+ByteBuffer CompressLzw(int codeBits, std::span<const std::uint8_t> pixels, int threads) {
   const std::size_t parts = (pixels.size() + kLzwPartPixels - 1) / kLzwPartPixels;
   std::vector<Part> done(parts);
-  const std::size_t workers =
-      std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, parts);
+  const std::size_t workers = std::min(WorkerCount(threads), parts);
   std::vector<StringTable> tables(workers);
   const auto compress = [&](std::size_t worker, int part) {
     const std::size_t begin = static_cast<std::size_t>(part) * kLzwPartPixels;
@@ -125,7 +123,7 @@ ByteBuffer CompressLzw(int codeBits, std::span<const std::uint8_t> pixels) {
                  done[static_cast<std::size_t>(part)]);
   };
   static_cast<void>(
-      ShareParts(static_cast<int>(parts), workers, compress, [](int) { return true; }));
+      ParallelFor(static_cast<int>(parts), workers, compress, [](int) { return true; }));
   BitWriter all;
   int width = codeBits + 1;
   for (const Part& part : done) {

@@ -10,13 +10,13 @@
 
 namespace plenovia {
 
-// Pixels are compressed in parts of this many, on all processors; each part begins with a clear
-// code.
+// Pixels are compressed in parts of this many, shared out among `threads` (see WorkerCount); each
+// part begins with a clear code.
 inline constexpr std::size_t kLzwPartPixels = std::size_t{1} << 19;
 
 // The codes for `pixels`, packed as in the blocks of a GIF file, with the end code. `codeBits`
 // (2..8) is the width of a pixel; no pixel may be wider. At least one pixel. The same on every
 // machine; a single part is what giflib makes of it.
-ByteBuffer CompressLzw(int codeBits, std::span<const std::uint8_t> pixels);
+ByteBuffer CompressLzw(int codeBits, std::span<const std::uint8_t> pixels, int threads);
 
 }  // namespace plenovia

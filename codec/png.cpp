@@ -4,9 +4,9 @@
 #include <utility>
 #include <vector>
 
-#include "codec/before_white.h"
 #include "codec/byte_stream.h"
 #include "codec/colour_reducer.h"
+#include "codec/composite_over_white.h"
 #include "codec/png_errors.h"
 #include "codec/png_reader.h"
 
@@ -32,20 +32,21 @@ void Scatter(std::span<const std::uint8_t> pixels, const PngRowPlace& place,
 }
 
 // Indexes or grays, which may have an alpha channel.
-Result<IndexedImage> ReadIndexes(PngReader& file) {
+Result<DecodedPicture> ReadIndexes(PngReader& file) {
   auto picture = IndexedImage::Create(file.width(), file.height(), file.palette());
-  if (!picture) return picture;
+  if (!picture) return tl::unexpected(picture.error());
+  picture->Fill(0);
   std::vector<std::uint8_t> grays(static_cast<std::size_t>(file.width()));
   const auto read = file.ReadRows([&](const PngRowPlace& place, std::span<const std::uint8_t> row) {
     if (file.channels() == 1) return Scatter(row, place, *picture);
     const std::span<std::uint8_t> pixels = std::span(grays).first(row.size() / 2);
     for (std::size_t x = 0; x < pixels.size(); ++x) {
-      pixels[x] = BeforeWhite(row[2 * x], row[2 * x + 1]);
+      pixels[x] = CompositeOverWhite(row[2 * x], row[2 * x + 1]);
     }
     Scatter(pixels, place, *picture);
   });
   if (!read) return tl::unexpected(read.error());
-  return picture;
+  return DecodedPicture(std::move(*picture), file.Damage());
 }
 
 // Calls `useRow(place, colours)` for each row of a true-colour file.
@@ -59,20 +60,21 @@ Result<void> ReadColourRows(PngReader& file, const UseRow& useRow) {
       const auto from = row.subspan(x * channels, channels);
       pixels[x] = {from[0], from[1], from[2]};
       if (channels == 3 || from[3] == 255) continue;
-      pixels[x] = BeforeWhite(pixels[x], from[3]);
+      pixels[x] = CompositeOverWhite(pixels[x], from[3]);
     }
     useRow(place, std::span<const Rgb>(pixels));
   });
 }
 
-Result<IndexedImage> ReadColours(std::span<const std::uint8_t> bytes, PngReader& file) {
+Result<DecodedPicture> ReadColours(std::span<const std::uint8_t> bytes, PngReader& file) {
   ColourReducer reducer;
   const auto counted = ReadColourRows(
       file, [&](const PngRowPlace&, std::span<const Rgb> row) { reducer.Count(row); });
   if (!counted) return tl::unexpected(counted.error());
   reducer.BuildPalette();
   auto picture = IndexedImage::Create(file.width(), file.height(), reducer.palette());
-  if (!picture) return picture;
+  if (!picture) return tl::unexpected(picture.error());
+  picture->Fill(0);
 
   PngReader again(bytes);
   if (auto opened = again.Open(); !opened) return tl::unexpected(opened.error());
@@ -84,7 +86,7 @@ Result<IndexedImage> ReadColours(std::span<const std::uint8_t> bytes, PngReader&
         Scatter(pixels, place, *picture);
       });
   if (!mapped) return tl::unexpected(mapped.error());
-  return picture;
+  return DecodedPicture(std::move(*picture), file.Damage());
 }
 
 void Write(png_structp png, png_infop info, const IndexedImage& picture,
@@ -107,14 +109,14 @@ bool LooksLikePng(std::span<const std::uint8_t> bytes) {
   return bytes.size() >= kSignature && png_sig_cmp(bytes.data(), 0, kSignature) == 0;
 }
 
-Result<IndexedImage> DecodePng(std::span<const std::uint8_t> bytes) {
+Result<DecodedPicture> DecodePng(std::span<const std::uint8_t> bytes) {
   PngReader file(bytes);
   if (auto opened = file.Open(); !opened) return tl::unexpected(opened.error());
   return file.channels() < 3 ? ReadIndexes(file) : ReadColours(bytes, file);
 }
 
 Result<EncodedPicture> EncodePng(const IndexedImage& picture) {
-  if (picture.empty()) return Failure(ErrorCode::kInvalid, "there is no picture to write");
+  if (picture.empty()) return Failure(ErrorCode::kInvalid, "There is no picture to write.");
   const auto highest = std::max_element(picture.pixels().begin(), picture.pixels().end());
   std::vector<png_color> palette;
   for (int i = 0; i < std::max(picture.palette().size(), *highest + 1); ++i) {
@@ -124,7 +126,7 @@ Result<EncodedPicture> EncodePng(const IndexedImage& picture) {
   PngErrors errors;
   ByteBuffer bytes;
   png_structp png =
-      png_create_write_struct(PNG_LIBPNG_VER_STRING, &errors, PngErrors::Fail, PngErrors::Ignore);
+      png_create_write_struct(PNG_LIBPNG_VER_STRING, &errors, PngErrors::Fail, PngErrors::Note);
   png_infop info = png == nullptr ? nullptr : png_create_info_struct(png);
   const bool written = info != nullptr && errors.Guarded([&] {
     const auto append = [](png_structp file, png_bytep data, std::size_t count) {
@@ -136,9 +138,13 @@ Result<EncodedPicture> EncodePng(const IndexedImage& picture) {
   });
   png_destroy_write_struct(&png, &info);
   if (!written) {
-    return Failure(ErrorCode::kTooLarge, "there is not enough memory to write the PNG file");
+    return Failure(ErrorCode::kTooLarge, "There is not enough memory to write the PNG file.");
   }
   return EncodedPicture(std::move(bytes));
+}
+
+std::string_view PngLibrary() {
+  return "libpng " PNG_LIBPNG_VER_STRING;
 }
 
 }  // namespace plenovia

@@ -4,13 +4,14 @@
 #include <png.h>
 
 #include <csetjmp>
+#include <cstring>
 
 #include "platform/result.h"
 
 namespace plenovia {
 
-// Takes the library's errors; warnings are passed over. Hand it to png_create_read_struct() or
-// png_create_write_struct() with the two functions.
+// Takes the library's errors, and its warnings of wrong checksums. Hand it to
+// png_create_read_struct() or png_create_write_struct() with the two functions.
 class PngErrors {
  public:
   PngErrors() = default;
@@ -20,7 +21,11 @@ class PngErrors {
   [[noreturn]] static void Fail(png_structp png, png_const_charp) {
     std::longjmp(static_cast<PngErrors*>(png_get_error_ptr(png))->jump_, 1);
   }
-  static void Ignore(png_structp, png_const_charp) {}
+  static void Note(png_structp png, png_const_charp warning) {
+    auto& errors = *static_cast<PngErrors*>(png_get_error_ptr(png));
+    errors.wrongChecksum_ = errors.wrongChecksum_ || std::strstr(warning, "CRC") != nullptr;
+  }
+  bool wrongChecksum() const { return wrongChecksum_; }
 
   // Runs `call`, which may use the library, and tells whether it came to its end. Nothing in
   // `call` may have a destructor: the jump does not run it.
@@ -33,6 +38,7 @@ class PngErrors {
 
  private:
   std::jmp_buf jump_{};
+  bool wrongChecksum_ = false;
 };
 
 }  // namespace plenovia

@@ -25,15 +25,20 @@ void PngReader::ReadBytes(png_structp png, png_bytep to, std::size_t count) {
   if (!source.Take(to, count)) png_error(png, "truncated");
 }
 
-tl::unexpected<Error> PngReader::Damaged() const {
-  return Failure(ErrorCode::kCorrupt,
-                 source_.truncated() ? "the file is truncated" : "the PNG file is damaged");
+std::string PngReader::Damage() const {
+  if (source_.truncated()) return kTruncated;
+  return broken_ || errors_.wrongChecksum() ? "The PNG file is damaged." : "";
+}
+
+tl::unexpected<Error> PngReader::Damaged() {
+  broken_ = true;
+  return Failure(ErrorCode::kCorrupt, Damage());
 }
 
 void PngReader::ReadHeader() {
   png_set_read_fn(png_, &source_, ReadBytes);
   png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);  // CheckLimits() has its own
-  png_set_crc_action(png_, PNG_CRC_ERROR_QUIT, PNG_CRC_ERROR_QUIT);
+  png_set_crc_action(png_, PNG_CRC_WARN_USE, PNG_CRC_WARN_DISCARD);
   // Only what the pixels need is read: other chunks cost memory and time.
   png_set_keep_unknown_chunks(png_, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
   png_read_info(png_, info_);
@@ -60,23 +65,22 @@ Result<void> PngReader::CheckLimits() const {
   const std::uint64_t raw =
       (std::uint64_t{png_get_rowbytes(png_, info_)} + 1) * png_get_image_height(png_, info_);
   if (raw / kMostExpansion > fileSize_) {
-    return Failure(ErrorCode::kCorrupt, "the file is too short for its size in pixels");
+    return Failure(ErrorCode::kCorrupt, "The file is too short for its size in pixels.");
   }
   const bool trueColour =
       (png_get_color_type(png_, info_) & ~PNG_COLOR_MASK_ALPHA) == PNG_COLOR_TYPE_RGB;
   const std::uint64_t work = trueColour ? 2 * raw : raw;  // it is read twice
   if (work > kMostRawBytes + kMostRawBytesPerByte * fileSize_) {
-    return Failure(ErrorCode::kTooLarge, "the PNG file expands to too many bytes of pixels");
+    return Failure(ErrorCode::kTooLarge, "The PNG file expands to too many bytes of pixels.");
   }
   return {};
 }
 
 Result<void> PngReader::Open() {
-  png_ =
-      png_create_read_struct(PNG_LIBPNG_VER_STRING, &errors_, PngErrors::Fail, PngErrors::Ignore);
+  png_ = png_create_read_struct(PNG_LIBPNG_VER_STRING, &errors_, PngErrors::Fail, PngErrors::Note);
   info_ = png_ == nullptr ? nullptr : png_create_info_struct(png_);
   if (info_ == nullptr) {
-    return Failure(ErrorCode::kTooLarge, "there is not enough memory to read the PNG file");
+    return Failure(ErrorCode::kTooLarge, "There is not enough memory to read the PNG file.");
   }
   if (!errors_.Guarded([this] { ReadHeader(); })) return Damaged();
   if (auto fits = CheckLimits(); !fits) return fits;

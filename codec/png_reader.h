@@ -4,9 +4,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "codec/byte_stream.h"
+#include "codec/decoded_picture.h"
 #include "codec/png_errors.h"
 #include "platform/palette.h"
 #include "platform/result.h"
@@ -39,7 +41,11 @@ class PngReader {
   // The file's palette, or grays.
   Palette palette() const;
 
-  // Calls `useRow(place, bytes)` for each row of the file, once.
+  // What is wrong with the file as far as it was read; empty when nothing is.
+  std::string Damage() const;
+
+  // Calls `useRow(place, bytes)` for each row of the file, once, as far as it can be read. Fails
+  // when that is not a single one.
   template <class UseRow>
   [[nodiscard]] Result<void> ReadRows(const UseRow& useRow) {
     const int passes = interlaced_ ? PNG_INTERLACE_ADAM7_PASSES : 1;
@@ -49,11 +55,15 @@ class PngReader {
       const auto bytes = std::span<const std::uint8_t>(row_).first(
           static_cast<std::size_t>(columns) * static_cast<std::size_t>(channels_));
       for (int y = 0; columns > 0 && y < rows; ++y) {
-        if (!errors_.Guarded([&] { png_read_row(png_, row_.data(), nullptr); })) return Damaged();
+        if (!errors_.Guarded([&] { png_read_row(png_, row_.data(), nullptr); })) {
+          broken_ = true;
+          if (pass == 0 && y == 0) return Damaged();
+          return {};
+        }
         useRow(PlaceOf(pass, y), bytes);
       }
     }
-    if (!errors_.Guarded([&] { png_read_end(png_, nullptr); })) return Damaged();
+    if (!errors_.Guarded([&] { png_read_end(png_, nullptr); })) broken_ = true;
     return {};
   }
 
@@ -63,7 +73,7 @@ class PngReader {
   void ReadHeader();
   [[nodiscard]] Result<void> CheckLimits() const;
   PngRowPlace PlaceOf(int pass, int y) const;
-  tl::unexpected<Error> Damaged() const;
+  tl::unexpected<Error> Damaged();
 
   ByteReader source_;
   std::size_t fileSize_;
@@ -74,6 +84,7 @@ class PngReader {
   int height_ = 0;
   int channels_ = 0;
   bool interlaced_ = false;
+  bool broken_ = false;  // the library gave up
   std::vector<std::uint8_t> row_;
 };
 

@@ -132,6 +132,7 @@ void TDepthList::GetObjectLevel(const TDepthObj* object) {
 void TDepthList::ApplyObjectLevel(const TDepthObj* object) {
   TDepthObj* own = Own(object);
   if (own == nullptr) return;
+  if (own->GetLevel() != currentLevel_) saved_ = false;
   own->SetLevel(currentLevel_);
   Select(own);
 }
@@ -177,6 +178,7 @@ void TDepthList::ExchangeWithBelow(TDepthObj* upper) {
 void TDepthList::MoveSelectedTo(const DepthRect& rect) {
   if (selected_ == nullptr) return;
   rows_->Forget();
+  if (!(selected_->GetRect() == rect)) saved_ = false;
   selected_->MoveTo(rect);
 }
 

@@ -56,6 +56,7 @@ class TDepthList final : public LevelGrid {
   void Select(const TDepthObj* object);
   // Makes the object's level the current level, or the other way round, and selects the object.
   void GetObjectLevel(const TDepthObj* object);
+  // Not saved any more when the object had another level.
   void ApplyObjectLevel(const TDepthObj* object);
 
   // Delete the selected object, or exchange it with the one above or below it. Nothing happens when

@@ -25,15 +25,17 @@ struct DepthMapContents {
   bool damaged = false;  // see DecodeDepthMap
 };
 
-// kCorrupt with "Invalid Depth Map file" when the magic is wrong or there is no count of at
+// Whether the bytes begin like a depth map.
+bool LooksLikeDepthMap(std::span<const std::uint8_t> bytes);
+
+// kCorrupt when the magic is wrong or there is no count of at
 // least 1.
 //
 // A file that breaks its format behind that is read as far as it goes, and `damaged` is set; the
-// caller tells the user. When it ends early, the objects keep what was read of them (as a line of
-// level 0 from (0, 0) to (0, 0) that covers nothing, where nothing was), and one such line stands
-// at the end for all the records that are missing: the map then has no size and cannot be sampled
-// as a picture, rather than taking some other shape for its background. A vertex count below 0
-// counts as 0. Bytes behind the last record are passed over.
+// caller tells the user. When it ends early, the objects keep what was read of them; the size is
+// then that of the smallest box from (0, 0) around all of them (32767 a side at most), which
+// becomes the background unless the last object read is that box. kCorrupt when nothing covers a
+// point. A vertex count below 0 counts as 0. Bytes behind the last record are ignored.
 [[nodiscard]] Result<DepthMapContents> DecodeDepthMap(std::span<const std::uint8_t> bytes);
 
 [[nodiscard]] Result<ByteBuffer> EncodeDepthMap(const TDepthList& list);

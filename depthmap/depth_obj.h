@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "depthmap/int32_reader.h"
-#include "depthmap/link_obj.h"
+#include "platform/link_obj.h"
 #include "platform/pixel_buffer.h"
 #include "platform/region.h"
 

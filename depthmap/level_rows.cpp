@@ -31,26 +31,26 @@ struct LiesDeeper {
 void LevelRows::Forget() {
   made_ = false;
   objects_.clear();
-  index_ = RowIndex();
+  index_ = IntervalTree();
 }
 
 void LevelRows::MakeIndex(const TDepthObj* head) {
   const std::lock_guard lock(making_);
   if (made_) return;
   objects_.clear();
-  std::vector<RowIndex::Reach> reaches;
+  std::vector<IntervalTree::Interval> rows;
   for (const TLinkObj* node = head; node != nullptr; node = node->GetNext()) {
     const auto* object = static_cast<const TDepthObj*>(node);
     const Region* region = object->GetRegion();
     if (region == nullptr) continue;
     const PixelRect& box = region->Bounds();
     if (box.right <= 0 || box.left >= box.right || box.top >= box.bottom) continue;
-    reaches.push_back({static_cast<std::int32_t>(std::max(box.top, kFirstRow)),
-                       static_cast<std::int32_t>(std::min(box.bottom - 1, kLastRow)),
-                       static_cast<std::uint32_t>(objects_.size())});
+    rows.push_back({static_cast<std::int32_t>(std::max(box.top, kFirstRow)),
+                    static_cast<std::int32_t>(std::min(box.bottom - 1, kLastRow)),
+                    static_cast<std::uint32_t>(objects_.size())});
     objects_.push_back({object, region});
   }
-  index_ = RowIndex(reaches);
+  index_ = IntervalTree(rows);
   made_ = true;
 }
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "depthmap/depth_obj.h"
-#include "platform/row_index.h"
+#include "platform/interval_tree.h"
 
 namespace plenovia {
 
@@ -33,7 +33,7 @@ class LevelRows {
   std::mutex making_;
   bool made_ = false;
   std::vector<Entry> objects_;  // topmost first
-  RowIndex index_;              // of positions in objects_
+  IntervalTree index_;          // of positions in objects_
 };
 
 }  // namespace plenovia

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kWordBits = 64;
 
-RowIndex::Reach RowsOf(const PixelRect& box, std::size_t id) {
+IntervalTree::Interval RowsOf(const PixelRect& box, std::size_t id) {
   constexpr std::int64_t kLow = std::numeric_limits<std::int32_t>::min();
   constexpr std::int64_t kHigh = std::numeric_limits<std::int32_t>::max();
   return {static_cast<std::int32_t>(std::clamp(box.top, kLow, kHigh)),
@@ -31,13 +31,21 @@ void MapPicture::SetSize(int width, int height) {
   rows_.resize(static_cast<std::size_t>(height));
 }
 
+void MapPicture::KeepRows(int first, int end) {
+  for (int y = keptFirst_; y < std::min<int>(keptEnd_, static_cast<int>(rows_.size())); ++y) {
+    if (y < first || y >= end) rows_[static_cast<std::size_t>(y)] = {};
+  }
+  keptFirst_ = first;
+  keptEnd_ = end;
+}
+
 void MapPicture::FollowList() {
   if (follows_ && edition_ == list_.Edition()) return;
   follows_ = true;
   edition_ = list_.Edition();
   others_.clear();
   above_ = 0;
-  std::vector<RowIndex::Reach> reaches;
+  std::vector<IntervalTree::Interval> rows;
   for (const TDepthObj* object = list_.Head(); object != nullptr;
        object = TDepthList::Below(*object)) {
     const LevelLabel& label = labels_.Label(object->GetLevel());
@@ -48,10 +56,10 @@ void MapPicture::FollowList() {
     }
     const PixelRect box = DrawnBox(*object, label);
     if (box.right <= 0 || box.left >= width_) continue;
-    reaches.push_back(RowsOf(box, others_.size()));
+    rows.push_back(RowsOf(box, others_.size()));
     others_.push_back({object, &label, box});
   }
-  index_ = RowIndex(reaches);
+  index_ = IntervalTree(rows);
   onRow_.resize(others_.size() / kWordBits + 1);
   for (Layers& row : rows_) row.made = false;
 }

@@ -10,7 +10,7 @@
 #include "depthmap/level_labels.h"
 #include "depthmap/row_canvas.h"
 #include "depthmap/rubber_band.h"
-#include "platform/row_index.h"
+#include "platform/interval_tree.h"
 #include "platform/shape_rows.h"
 
 namespace plenovia {
@@ -28,6 +28,8 @@ class MapPicture {
 
   // The picture shows the columns 0..width-1 of the rows 0..height-1.
   void SetSize(int width, int height);
+  // Gives up what is kept of rows other than first..end-1, which are in view.
+  void KeepRows(int first, int end);
 
   // Writes the pixels of `area`, which lies in the picture, row after row, as RowCanvas gives them.
   void Render(const PixelRect& area, const RubberBand& rubber, std::span<std::uint32_t> pixels);
@@ -64,6 +66,8 @@ class MapPicture {
   LevelLabels& labels_;
   int width_ = 0;
   std::vector<Layers> rows_;
+  int keptFirst_ = 0;
+  int keptEnd_ = 0;
   LabelReach reach_;
 
   // Of the list's edition `edition_`, if there is any yet.
@@ -71,7 +75,7 @@ class MapPicture {
   std::uint64_t edition_ = 0;
   std::vector<Shown> others_;         // all but the selected one, topmost first
   std::size_t above_ = 0;             // how many of them lie above the selected one
-  RowIndex index_;                    // of positions in others_
+  IntervalTree index_;                // of positions in others_
   std::vector<std::uint64_t> onRow_;  // a bit for each position
 };
 

@@ -17,7 +17,7 @@ inline constexpr std::uint32_t kWhitePixel = 0xFFFFFFFF;
 inline constexpr std::uint32_t kNothingPixel = 0;
 
 // What is painted first stays: later paint only fills columns that are still free. Columns outside
-// of 0..width-1 are passed over.
+// of 0..width-1 are left out.
 class RowCanvas {
  public:
   RowCanvas() = default;

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "platform/parts.h"
+#include "platform/parallel_for.h"
 
 namespace plenovia {
 
@@ -48,7 +48,7 @@ bool RunBands(int width, int rows, int threads, const WorkerFactory& makeWorker,
   std::vector<RowWorker> workers(static_cast<std::size_t>(std::clamp(threads, 1, bands)));
   for (RowWorker& worker : workers) worker = makeWorker();
   ProgressSteps progress(width, rows, monitor);
-  return ShareParts(
+  return ParallelFor(
       bands, workers.size(),
       [&](std::size_t worker, int index) {
         const int end = std::min(rows, (index + 1) * band);

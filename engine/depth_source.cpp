@@ -52,20 +52,14 @@ void BuildFigureDepthRow(std::span<std::int32_t> depth, FigureLevelFunction leve
                          std::int32_t code, int scanLine, int width, int height,
                          const TSirdsSettings& settings) {
   const std::int32_t half = settings.gapValue / 2;
-  const std::int32_t first = (settings.scanMethod == kFeucht ? half : 0) - settings.dx;
+  // Half the gap lies between a pair's middle, the figure's place, and its right pixel.
+  const bool centred = ScanMethodOf(settings.scanMethod).anchor == RevealAnchor::kCentre;
+  const std::int32_t first = (centred ? half : 0) - settings.dx;
   const std::int32_t centreColumn = width / 2 + half;
   for (std::size_t x = 0; x < depth.size(); ++x) {
     depth[x] = level(first + static_cast<std::int32_t>(x), scanLine - settings.dy, centreColumn,
                      height / 2, settings.da, code);
   }
-}
-
-bool WidensByGap(std::int32_t scanMethod) {
-  return scanMethod == kLeftToRight || scanMethod == kMcMahon;
-}
-
-int StartColumn(std::int32_t scanMethod, std::int32_t gap) {
-  return WidensByGap(scanMethod) ? gap / 2 : 0;
 }
 
 bool DepthSource::BuildByteRow(int, std::span<std::uint8_t>) const {

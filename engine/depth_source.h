@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "engine/scan_methods.h"
+#include "engine/scan_method.h"
 #include "engine/sirds_settings.h"
 #include "platform/indexed_image.h"
 #include "platform/level_grid.h"
@@ -38,12 +38,6 @@ void BuildMapDepthRow(std::span<std::int32_t> depth, const LevelGrid& map, int s
 void BuildFigureDepthRow(std::span<std::int32_t> depth, FigureLevelFunction level,
                          std::int32_t code, int scanLine, int width, int height,
                          const TSirdsSettings& settings);
-
-// The first output column that a picture or a map feeds: half the gap for the scan methods whose
-// output is widened by the gap, else 0.
-int StartColumn(std::int32_t scanMethod, std::int32_t gap);
-// Whether the scan method works on rows that are wider than the result by the gap.
-bool WidensByGap(std::int32_t scanMethod);
 
 // A source as a run sees it. Const calls may run on several threads at once.
 class DepthSource {

@@ -10,8 +10,10 @@
 #include <utility>
 
 #include "engine/bands.h"
+#include "engine/colour_blends.h"
 #include "engine/markers.h"
 #include "engine/prepared_shift.h"
+#include "engine/scan_method.h"
 #include "engine/tiling.h"
 #include "platform/limits.h"
 
@@ -24,7 +26,7 @@ struct Canvas {
   int runWidth = 0;    // columns generated
   int finalWidth = 0;  // columns kept, the leftmost ones
   int height = 0;
-  std::int32_t gap = 0;                      // that the rows are shifted with
+  std::int32_t gap = 0;                      // of the rows and between the markers
   const IndexedImage* background = nullptr;  // in the palette of the result; none: pattern tiles
 };
 
@@ -38,8 +40,9 @@ class RowShifter {
         pattern_(input.pattern),
         shift_(shift),
         result_(result),
-        origin_(TileOrigin(input.settings.scanMethod, canvas.runWidth, input.pattern.width())),
-        row_(shift.MakeRow()) {}
+        origin_(ScanMethodOf(input.settings.scanMethod)
+                    .TileOrigin(canvas.runWidth, input.pattern.width())),
+        row_(canvas.runWidth) {}
 
   void Run(int scanLine) {
     const auto row = row_.pixels();
@@ -72,18 +75,23 @@ class RowShifter {
 // Generates the canvas. The result's pixels are complete but for caption and markers.
 Result<IndexedImage> ShiftRows(const Canvas& canvas, const DepthSource& source,
                                const RunInput& input) {
+  const ScanMethod& method = ScanMethodOf(input.settings.scanMethod);
+  std::optional<ColourBlends> blends;
+  if (method.blends) blends.emplace(canvas.background ? *canvas.background : input.pattern);
   auto result =
-      IndexedImage::Create(canvas.finalWidth, canvas.height, input.pattern.palette().Widened());
+      IndexedImage::Create(canvas.finalWidth, canvas.height,
+                           blends ? blends->palette() : input.pattern.palette().Widened());
   if (!result) return result;
-  const PreparedShift shift(canvas.runWidth, canvas.gap, source.kind(), input.settings);
+  const auto shift = method.prepare(
+      {canvas.runWidth, canvas.gap, source.kind(), input.settings, blends ? &*blends : nullptr});
   const bool finished = RunBands(
       canvas.runWidth, canvas.height, input.threads,
       [&]() -> RowWorker {
-        auto rows = std::make_shared<RowShifter>(canvas, source, input, shift, *result);
+        auto rows = std::make_shared<RowShifter>(canvas, source, input, *shift, *result);
         return [rows](int scanLine) { rows->Run(scanLine); };
       },
       input.monitor);
-  if (!finished) return Failure(ErrorCode::kCancelled, "stopped");
+  if (!finished) return Failure(ErrorCode::kCancelled, "The run was stopped.");
   return result;
 }
 
@@ -105,14 +113,16 @@ class Bracket {
 // A gap and a place for which sums with coordinates fit an int, and rows are no narrower than the
 // result.
 Result<void> CheckInput(const RunInput& input) {
-  if (input.pattern.empty()) return Failure(ErrorCode::kInvalid, "there is no pattern");
+  if (input.pattern.empty()) return Failure(ErrorCode::kInvalid, "There is no pattern to use.");
   const auto fits = [](std::int32_t pixels, std::int32_t least) {
     return pixels >= least && pixels <= kMaxSide;
   };
   const TSirdsSettings& settings = input.settings;
   if (!fits(settings.gapValue, 0) || !fits(settings.dx, -kMaxSide) ||
       !fits(settings.dy, -kMaxSide)) {
-    return Failure(ErrorCode::kInvalid, "the gap or the place of the figure is out of range");
+    return Failure(ErrorCode::kInvalid,
+                   "The gap has to be from 0 to 32767 pixels, the place of the figure at most "
+                   "32767 pixels from the middle.");
   }
   return {};
 }
@@ -125,7 +135,7 @@ Result<IndexedImage> Run(const RunInput& input, std::string startText, const Wor
   try {
     return work();
   } catch (const std::bad_alloc&) {
-    return Failure(ErrorCode::kTooLarge, "there is not enough memory for the stereogram");
+    return Failure(ErrorCode::kTooLarge, "There is not enough memory for the stereogram.");
   }
 }
 
@@ -136,7 +146,7 @@ Result<IndexedImage> Generate(const Canvas& canvas, const DepthSource& source,
   auto result = ShiftRows(canvas, source, input);
   if (!result) return result;
   if (caption) caption(*result);
-  if (input.settings.marker != 0) DrawMarkers(*result, input.settings.gapValue);
+  if (input.settings.marker != 0) DrawMarkers(*result, canvas.gap);
   return result;
 }
 
@@ -158,17 +168,20 @@ Result<IndexedImage> FromBitmap(const IndexedImage& source, double zoom, const R
   const double scaledWidth = std::trunc(source.width() * zoom);
   const double scaledHeight = std::trunc(source.height() * zoom);
   const double gap = settings.gapValue * zoom;
-  if (!(zoom > 0)) return Failure(ErrorCode::kInvalid, "the zoom is not above 0");
+  if (!(zoom > 0)) return Failure(ErrorCode::kInvalid, "The zoom has to be above 0.");
   if (!(scaledWidth + gap < 1e6 && scaledHeight < 1e6)) {
-    return Failure(ErrorCode::kTooLarge, "the stereogram is too large");
+    return Failure(ErrorCode::kTooLarge, "The stereogram would be too large at this zoom.");
+  }
+  if (!source.empty() && (scaledWidth < 1 || scaledHeight < 1)) {
+    return Failure(ErrorCode::kInvalid, "The picture is too small for this zoom.");
   }
   Canvas canvas;
   canvas.gap = static_cast<std::int32_t>(gap);
+  canvas.finalWidth = static_cast<int>(scaledWidth);
   canvas.height = static_cast<int>(scaledHeight);
-  const bool widens = WidensByGap(settings.scanMethod);
-  canvas.runWidth = static_cast<int>(scaledWidth + (widens ? gap : 0));
-  canvas.finalWidth = canvas.runWidth - (widens ? settings.gapValue : 0);
-  const int start = StartColumn(settings.scanMethod, canvas.gap);
+  const ScanMethod& method = ScanMethodOf(settings.scanMethod);
+  canvas.runWidth = method.RunWidth(canvas.finalWidth, canvas.gap);
+  const int start = method.StartColumn(canvas.gap);
   return Generate(canvas, PictureDepth(source, zoom, start, settings.depthSel), input);
 }
 
@@ -181,8 +194,9 @@ Result<IndexedImage> FromDepthMap(const LevelGrid& map, const RunInput& input) {
   canvas.gap = settings.gapValue;
   canvas.height = map.GridHeight();
   canvas.finalWidth = map.GridWidth();
-  canvas.runWidth = canvas.finalWidth + (WidensByGap(settings.scanMethod) ? canvas.gap : 0);
-  return Generate(canvas, MapDepth(map, StartColumn(settings.scanMethod, canvas.gap)), input);
+  const ScanMethod& method = ScanMethodOf(settings.scanMethod);
+  canvas.runWidth = method.RunWidth(canvas.finalWidth, canvas.gap);
+  return Generate(canvas, MapDepth(map, method.StartColumn(canvas.gap)), input);
 }
 
 Result<IndexedImage> FromFigure(const FigureRun& figure, const RunInput& input) {

@@ -16,10 +16,12 @@ namespace plenovia {
 // What every run needs beside its depth source. All of it is borrowed and must outlive the run;
 // the settings are read once, at the start.
 struct RunInput {
-  const IndexedImage& pattern;  // the tile; the result has its colours, widened to 256
+  const IndexedImage& pattern;  // the tile; the result has its colours, widened to 256,
+                                // with blends of them for a method that blends
   const TSirdsSettings& settings;
   RunMonitor& monitor;
-  int threads = 1;  // rows are shared out among so many; the result is the same for any number
+  int threads =
+      1;  // rows are shared out among as many threads; the result is the same for any number
 };
 
 // Each run gives the finished stereogram, or an error: kCancelled when the monitor stopped it,
@@ -27,8 +29,8 @@ struct RunInput {
 // or a gap, dx or dy of more pixels than a picture's side can have). In every case the monitor
 // hears the end phase last.
 
-// Depth from a picture by palette index or by brightness. `zoom` scales the result, the source is
-// read at the nearest pixel.
+// Depth from a picture by palette index or by brightness. `zoom` scales the result with its gap and
+// its markers; the source is read at the nearest pixel.
 [[nodiscard]] Result<IndexedImage> MakeSirdFromBitmap(const IndexedImage& source, double zoom,
                                                       const RunInput& input);
 

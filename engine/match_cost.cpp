@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
 
-#include "engine/byte_lanes.h"
 #include "platform/random.h"
 
 namespace plenovia {
@@ -44,7 +44,7 @@ Channels Scaled(Channels channels, double meanDifference) {
     channels.resize(1);
     meanDifference /= 3;
   }
-  const double factor = meanDifference > 0 ? MatchCost::kChanceCost / meanDifference : 0;
+  const double factor = meanDifference > 0 ? kChanceCost / meanDifference : 0;
   for (auto& channel : channels) {
     const double darkest = *std::min_element(channel.begin(), channel.end());
     for (auto& value : channel) {
@@ -54,18 +54,29 @@ Channels Scaled(Channels channels, double meanDifference) {
   return channels;
 }
 
+void CopyReversed(const std::uint8_t* from, std::size_t count, std::uint8_t* to) {
+  constexpr std::size_t kWord = sizeof(std::uint64_t);
+  for (; count >= kWord; count -= kWord, to += kWord) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, from + count - kWord, kWord);
+    word = __builtin_bswap64(word);
+    std::memcpy(to, &word, kWord);
+  }
+  std::reverse_copy(from, from + count, to);
+}
+
 }  // namespace
 
 MatchCost::MatchCost(const IndexedImage& picture, SeparationRange range, RevealAnchor anchor)
-    : picture_(picture),
-      range_(range),
-      anchor_(anchor),
-      lanes_((static_cast<std::size_t>(range.count()) / kByteLanes + 1) * kByteLanes) {
+    : picture_(picture), range_(range), anchor_(anchor) {
   const Channels channels = ChannelsOf(picture.palette());
   channels_ = Scaled(channels, MeanDifference(picture, channels));
   const std::size_t times = anchor == RevealAnchor::kRight ? 1 : 2;
   stride_ = static_cast<std::size_t>(picture.width()) * times +
-            static_cast<std::size_t>(range.largest) + lanes_;
+            static_cast<std::size_t>(range.largest + range.count()) + kMostByteLanes;
+  pairs_.reserve(static_cast<std::size_t>(picture.width()));
+  for (int x = 0; x < picture.width(); ++x)
+    pairs_.push_back(static_cast<std::uint16_t>(PairsAt(x)));
 }
 
 int MatchCost::PairsAt(int x) const {
@@ -84,57 +95,38 @@ int MatchCost::PairCost(int x, int y, int separation) const {
 // The left pixels of a column's pairs lie one after the other in scratch.left, so do the right ones
 // in scratch.right: reversed, and with the centre as anchor each pixel twice, because every second
 // step of the separation moves the left pixel and the others the right one.
-void MatchCost::Spread(std::span<const std::uint8_t> row, Scratch& scratch) const {
-  const std::size_t times = anchor_ == RevealAnchor::kRight ? 1 : 2;
-  const std::size_t length = row.size() * times;
-  scratch.left.resize(stride_ * channels_.size());
-  scratch.right.resize(stride_ * channels_.size());
-  for (std::size_t c = 0; c < channels_.size(); ++c) {
-    std::uint8_t* left = scratch.left.data() + c * stride_ + length;
-    std::uint8_t* right = scratch.right.data() + c * stride_;
-    for (const std::uint8_t pixel : row) {
-      const std::uint8_t value = channels_[c][pixel];
-      for (std::size_t i = 0; i < times; ++i) *--left = *right++ = value;
-    }
-  }
-}
-
-template <std::size_t kChannels, bool kCentre>
-void MatchCost::Compare(const Scratch& scratch, std::span<std::uint8_t> costs) const {
-  const auto width = static_cast<std::size_t>(picture_.width());
-  const auto smallest = static_cast<std::size_t>(range_.smallest);
-  const ByteLanes highest = SameLanes(kHighestCost);
-  for (std::size_t x = 0; x < width; ++x) {
-    const std::size_t behind = width - 1 - x;
-    const std::uint8_t* left = scratch.left.data() + smallest + (kCentre ? 2 * behind : behind);
-    const std::uint8_t* right = scratch.right.data() + (kCentre ? 2 * x + smallest + 1 : x);
-    std::uint8_t* cost = costs.data() + x * lanes_;
-    for (std::size_t i = 0; i < lanes_; i += kByteLanes) {
-      ByteLanes sum{};
-      for (std::size_t c = 0; c < kChannels; ++c) {
-        const std::uint8_t* other = right + c * stride_;
-        const ByteLanes pixels = kCentre ? LoadLanes(other + i) : SameLanes(*other);
-        sum += Min(AbsDifference(LoadLanes(left + c * stride_ + i), pixels), highest);
-      }
-      StoreLanes(cost + i, Min(sum, highest));
-    }
-  }
-}
-
-void MatchCost::Row(int y, std::uint8_t padding, Scratch& scratch,
-                    std::span<std::uint8_t> costs) const {
-  Spread(picture_.Row(y), scratch);
+PairRow MatchCost::Row(int y, Scratch& scratch) const {
+  const auto row = picture_.Row(y);
   const bool centre = anchor_ == RevealAnchor::kCentre;
-  if (channels_.size() == 1) {
-    centre ? Compare<1, true>(scratch, costs) : Compare<1, false>(scratch, costs);
-  } else {
-    centre ? Compare<3, true>(scratch, costs) : Compare<3, false>(scratch, costs);
+  scratch.pixels.resize(stride_ * channels_.size());
+  scratch.left.resize(scratch.pixels.size());
+  if (centre) scratch.right.resize(scratch.pixels.size());
+  for (std::size_t c = 0; c < channels_.size(); ++c) {
+    std::uint8_t* pixels = scratch.pixels.data() + c * stride_;
+    std::uint8_t* left = scratch.left.data() + c * stride_;
+    const auto& channel = channels_[c];
+    for (std::size_t x = 0; x < row.size(); ++x) pixels[x] = channel[row[x]];
+    if (!centre) {
+      CopyReversed(pixels, row.size(), left);
+      continue;
+    }
+    std::uint8_t* right = scratch.right.data() + c * stride_;
+    for (std::size_t x = 0; x < row.size(); ++x) {
+      right[2 * x] = right[2 * x + 1] = pixels[x];
+      left[2 * x] = left[2 * x + 1] = pixels[row.size() - 1 - x];
+    }
   }
-  for (int x = 0; x < picture_.width(); ++x) {
-    std::uint8_t* cost = costs.data() + static_cast<std::size_t>(x) * lanes_;
-    std::fill(cost + PairsAt(x), cost + range_.count(), kChanceCost);
-    std::fill(cost + range_.count(), cost + lanes_, padding);
-  }
+  const auto smallest = static_cast<std::size_t>(range_.smallest);
+  return {.pixels = scratch.pixels.data(),
+          .left = scratch.left.data() + smallest,
+          .right = centre ? scratch.right.data() + smallest + 1 : scratch.pixels.data(),
+          .stride = stride_,
+          .channels = channels_.size(),
+          .centre = centre,
+          .width = row.size(),
+          .smallest = smallest,
+          .count = static_cast<std::size_t>(range_.count()),
+          .pairs = pairs_.data()};
 }
 
 }  // namespace plenovia

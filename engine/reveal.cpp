@@ -6,7 +6,7 @@
 #include "engine/reveal_strip.h"
 #include "engine/separation_range.h"
 #include "platform/limits.h"
-#include "platform/parts.h"
+#include "platform/parallel_for.h"
 
 namespace plenovia {
 
@@ -14,10 +14,12 @@ namespace {
 
 constexpr int kMostSeparations = 1024;
 
-// The height of the strips of a picture: as large as some megabytes of path costs allow.
+// The height of the strips of a picture: as large as some megabytes of path costs allow, whatever
+// the vectors of the processor are, as results depend on it.
 int StripRows(const MatchCost& cost) {
   constexpr std::size_t kBytes = std::size_t{20} << 20;
-  const std::size_t row = static_cast<std::size_t>(cost.width()) * cost.lanes();
+  const std::size_t lanes = (static_cast<std::size_t>(cost.range().count()) / 16 + 1) * 16;
+  const std::size_t row = static_cast<std::size_t>(cost.width()) * lanes;
   return std::min(static_cast<int>(std::clamp<std::size_t>(kBytes / row, 4, 64)), cost.height());
 }
 
@@ -31,7 +33,7 @@ bool SearchStrips(const MatchCost& cost, int threads, RunMonitor& monitor, Revea
   for (int i = 0; i < workers; ++i) searches.emplace_back(cost, rows);
 
   int reported = 0;
-  return ShareParts(
+  return ParallelFor(
       strips, searches.size(),
       [&](std::size_t worker, int strip) {
         const int first = strip * rows;
@@ -49,22 +51,22 @@ bool SearchStrips(const MatchCost& cost, int threads, RunMonitor& monitor, Revea
 
 Result<RevealedDepth> Search(const IndexedImage& picture, const RevealOptions& options,
                              RunMonitor& monitor) {
-  if (picture.empty()) return Failure(ErrorCode::kInvalid, "the picture is empty");
+  if (picture.empty()) return Failure(ErrorCode::kInvalid, "The picture is empty.");
   SeparationRange range{options.smallest, options.largest};
   if (range.smallest == 0 || range.largest == 0) range = FindSeparationRange(picture);
   if (range.smallest < 1 || range.largest < range.smallest || range.largest > kMaxSide ||
       range.count() > kMostSeparations) {
-    return Failure(ErrorCode::kInvalid, "the range of separations makes no sense");
+    return Failure(ErrorCode::kInvalid, "The range of separations makes no sense.");
   }
   RevealedDepth result{.width = picture.width(),
                        .height = picture.height(),
                        .smallest = range.smallest,
                        .largest = range.largest,
-                       .separation = std::vector<std::uint16_t>(picture.pixels().size()),
-                       .certainty = std::vector<std::uint8_t>(picture.pixels().size())};
+                       .separation = PixelVector<std::uint16_t>(picture.pixels().size()),
+                       .certainty = PixelVector<std::uint8_t>(picture.pixels().size())};
   const MatchCost cost(picture, range, options.anchor);
   if (!SearchStrips(cost, options.threads, monitor, result)) {
-    return Failure(ErrorCode::kCancelled, "the search for depth was stopped");
+    return Failure(ErrorCode::kCancelled, "The search for depth was stopped.");
   }
   return result;
 }
@@ -74,7 +76,7 @@ Result<RevealedDepth> SearchInMemory(const IndexedImage& picture, const RevealOp
   try {
     return Search(picture, options, monitor);
   } catch (const std::bad_alloc&) {
-    return Failure(ErrorCode::kTooLarge, "there is not enough memory");
+    return Failure(ErrorCode::kTooLarge, "There is not enough memory.");
   }
 }
 

@@ -2,20 +2,15 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
 #include "engine/match_cost.h"
 #include "engine/run_monitor.h"
 #include "engine/sirds_settings.h"
 #include "platform/indexed_image.h"
+#include "platform/pixel_buffer.h"
 #include "platform/result.h"
 
 namespace plenovia {
-
-// The anchor that fits the pictures of a scan method.
-inline RevealAnchor AnchorOf(std::int32_t scanMethod) {
-  return scanMethod == kFeucht ? RevealAnchor::kCentre : RevealAnchor::kRight;
-}
 
 struct RevealOptions {
   RevealAnchor anchor = RevealAnchor::kRight;
@@ -32,8 +27,8 @@ struct RevealedDepth {
   int height = 0;
   int smallest = 0;  // the range of separations that was tried
   int largest = 0;
-  std::vector<std::uint16_t> separation;  // pixels; 0 where no pair lies inside the picture
-  std::vector<std::uint8_t> certainty;    // 0 (a guess) to 255 (beyond doubt)
+  PixelVector<std::uint16_t> separation;  // pixels; 0 where no pair lies inside the picture
+  PixelVector<std::uint8_t> certainty;    // 0 (a guess) to 255 (beyond doubt)
 };
 
 // Finds for each pixel the separation at which its row, together with its neighbours, best repeats

@@ -2,39 +2,18 @@
 
 #include <algorithm>
 
-#include "engine/smooth_paths.h"
-
 namespace plenovia {
 
 namespace {
 
 constexpr int kLeadIn = 12;  // rows outside the strip where vertical paths begin
 
-std::size_t Find(const std::uint8_t* bytes, std::uint8_t value, std::size_t count) {
-  return static_cast<std::size_t>(std::find(bytes, bytes + count, value) - bytes);
-}
-
-std::uint8_t Lowest(const std::uint8_t* bytes, std::size_t lanes) {
-  ByteLanes lowest = SameLanes(255);
-  for (std::size_t i = 0; i < lanes; i += kByteLanes) lowest = Min(lowest, LoadLanes(bytes + i));
-  return LowestLane(lowest);
-}
-
-constexpr std::uint8_t kBarred = 255;  // above all sums of path costs
-
-// By how much the sum of the choice is below the lowest one of separations that are not beside it,
-// in parts of that one; less where the lead is small in itself.
-std::uint8_t Certainty(int best, int other) {
-  constexpr int kClearLead = 3 * MatchCost::kChanceCost;
-  const int lead = other - best;
-  if (lead <= 0 || other == kBarred) return 0;
-  return static_cast<std::uint8_t>(255 * lead / other * std::min(lead, kClearLead) / kClearLead);
-}
+constexpr int kReach = 4;
+constexpr int kRepeatsUpTo = 25 * kChanceCost / 8;
 
 // Whether the neighbourhood of a pixel, a grid of 5 x 5 samples, repeats at a separation.
 bool RepeatsAround(const MatchCost& matchCost, int x, int y, int separation) {
-  constexpr int kReach = 4;
-  int left = 25 * MatchCost::kChanceCost / 8;
+  int left = kRepeatsUpTo;
   for (int v = std::max(0, y - kReach); v < std::min(matchCost.height(), y + kReach + 1); v += 2) {
     for (int u = x - kReach; u <= x + kReach; u += 2) {
       left -= matchCost.PairCost(u, v, separation);
@@ -46,147 +25,103 @@ bool RepeatsAround(const MatchCost& matchCost, int x, int y, int separation) {
 
 // Where a row repeats, it also repeats at twice the separation. That one looks better where it lies
 // closer to the separations around, so the half is tried too.
-bool IsTwiceTheRepeat(const MatchCost& matchCost, int x, int y, int separation) {
-  const int half = separation / 2;
-  if (separation % 2 != 0 || half < matchCost.range().smallest) return false;
+bool IsTwiceTheRepeat(const MatchCost& matchCost, int x, int y, int half) {
   return RepeatsAround(matchCost, x, y, half) &&
          !RepeatsAround(matchCost, x, y, half + half / 2);  // what has no texture repeats anywhere
 }
 
 }  // namespace
 
-StripSearch::Paths::Paths(const MatchCost& matchCost, std::size_t width)
-    : lanes_(matchCost.lanes()), costs_(width * lanes_ + 2 * kByteLanes), lowest_(width) {
-  std::fill(costs_.begin(), costs_.end(), kBeyondCost);
-  std::fill(lowest_.begin(), lowest_.end(), std::uint8_t{0});
-}
-
 StripSearch::StripSearch(const MatchCost& matchCost, int rows)
     : matchCost_(matchCost),
-      width_(static_cast<std::size_t>(matchCost.width())),
-      lanes_(matchCost.lanes()),
-      costs_(width_ * lanes_),
-      start_(matchCost, width_),
-      fromLeft_(matchCost, width_),
-      fromRight_(matchCost, 2),
-      fromAbove_(2, fromLeft_),
-      outside_(2, fromLeft_),
-      fromBelow_(static_cast<std::size_t>(rows), fromLeft_),
-      sums_(lanes_) {
-  const auto count = static_cast<std::size_t>(matchCost.range().count());
-  for (std::size_t x = 0; x < width_; ++x) std::fill_n(start_.At(x), count, std::uint8_t{0});
-  barred_.resize(count + lanes_);
-  std::fill(barred_.begin(), barred_.end(), kBarred);
-  std::fill_n(barred_.begin(), count, std::uint8_t{0});
-}
+      kernels_(FastestRevealKernels(static_cast<std::size_t>(matchCost.range().count()))),
+      outside_(static_cast<std::size_t>(matchCost.width()) *
+               kernels_.Lanes(static_cast<std::size_t>(matchCost.range().count()))),
+      lowest_(static_cast<std::size_t>(matchCost.width())),
+      alongRow_(outside_.size() + lowest_.size()),
+      fromBelow_(static_cast<std::size_t>(rows) * outside_.size()) {}
 
 void StripSearch::Run(int first, int end, std::span<std::uint16_t> separations,
                       std::span<std::uint8_t> certainties) {
-  Paths* before = &start_;
-  for (int y = std::min(matchCost_.height(), end + kLeadIn) - 1; y >= first; --y) {
-    Paths& after = y < end ? fromBelow_[static_cast<std::size_t>(y - first)]
-                           : outside_[static_cast<std::size_t>(y & 1)];
-    StepToRow(y, *before, after);
-    before = &after;
-  }
-  before = &start_;
+  StepFromBelow(first, end);
+  BeginPaths();
+  const auto width = static_cast<std::size_t>(matchCost_.width());
   for (int y = std::max(0, first - kLeadIn); y < end; ++y) {
-    Paths& after = fromAbove_[static_cast<std::size_t>(y & 1)];
-    StepToRow(y, *before, after);
-    before = &after;
-    if (y < first) continue;
-    AddMean(after, fromBelow_[static_cast<std::size_t>(y - first)]);
-    const std::size_t offset = static_cast<std::size_t>(y) * width_;
-    SearchRow(separations.subspan(offset, width_), certainties.subspan(offset, width_));
-    PreferHalves(y, separations.subspan(offset, width_));
-    WeighByTexture(y, certainties.subspan(offset, width_));
+    const PairRow row = matchCost_.Row(y, scratch_);
+    if (y < first) {
+      kernels_.stepRow(row, Outside(), Outside());
+      continue;
+    }
+    const std::size_t offset = static_cast<std::size_t>(y) * width;
+    const auto found = separations.subspan(offset, width);
+    const auto certain = certainties.subspan(offset, width);
+    kernels_.joinRow(row, Outside(), BelowAt(y - first));
+    kernels_.searchRow(row, BelowAt(y - first), alongRow_.data(), found.data(), certain.data());
+    PreferHalves(y, row, found);
+    WeighByTexture(row, certain);
   }
 }
 
-void StripSearch::StepToRow(int y, Paths& before, Paths& after) {
-  matchCost_.Row(y, kBeyondCost, scratch_, costs_);
-  for (std::size_t x = 0; x < width_; ++x) {
-    after.LowestAt(x) =
-        StepPath<kBetweenRows>(before.At(x), before.LowestAt(x), CostsAt(x), lanes_, after.At(x));
+void StripSearch::BeginPaths() {
+  std::fill(outside_.begin(), outside_.end(), std::uint8_t{0});
+  std::fill(lowest_.begin(), lowest_.end(), std::uint8_t{0});
+}
+
+void StripSearch::StepFromBelow(int first, int end) {
+  BeginPaths();
+  PathRow before = Outside();
+  for (int y = std::min(matchCost_.height(), end + kLeadIn) - 1; y >= first; --y) {
+    const PathRow after = y < end ? PathRow{BelowAt(y - first), lowest_.data()} : before;
+    kernels_.stepRow(matchCost_.Row(y, scratch_), before, after);
+    before = after;
   }
 }
 
-void StripSearch::AddMean(Paths& fromAbove, Paths& fromBelow) {
-  const std::uint8_t* above = fromAbove.At(0);
-  const std::uint8_t* below = fromBelow.At(0);
-  for (std::size_t i = 0; i < costs_.size(); i += kByteLanes) {
-    const ByteLanes mean = (LoadLanes(above + i) + LoadLanes(below + i)) >> 1;
-    StoreLanes(costs_.data() + i, LoadLanes(costs_.data() + i) + mean);
+void StripSearch::PreferHalves(int y, const PairRow& row, std::span<std::uint16_t> separations) {
+  halves_.resize(row.width);
+  const std::size_t count =
+      kernels_.findHalves(row, separations.data(), kRepeatsUpTo, halves_.data());
+  for (const std::uint16_t x : std::span(halves_).first(count)) {
+    const int half = separations[x] / 2;
+    if (IsTwiceTheRepeat(matchCost_, x, y, half)) separations[x] = static_cast<std::uint16_t>(half);
   }
 }
 
-void StripSearch::SearchRow(std::span<std::uint16_t> separations,
-                            std::span<std::uint8_t> certainties) {
-  const std::uint8_t* before = start_.At(0);
-  std::uint8_t lowest = 0;
-  for (std::size_t x = 0; x < width_; ++x) {
-    lowest = StepPath<kAlongRow>(before, lowest, CostsAt(x), lanes_, fromLeft_.At(x));
-    before = fromLeft_.At(x);
+// Sums of 13 neighbours are made of sums of 2, 4 and 8. What is enough stays enough in all of them.
+void StripSearch::WeighByTexture(const PairRow& row, std::span<std::uint8_t> certainties) {
+  constexpr std::size_t kHalf = 6;
+  constexpr std::uint8_t kEnough = (2 * kHalf + 1) * kChanceCost / 4;
+  const std::size_t width = row.width;
+  const std::size_t room = width + 32;
+  changes_.resize(3 * room);
+  std::uint8_t* one = changes_.data();
+  std::uint8_t* four = one + room;
+  std::uint8_t* eight = four + room;
+  std::fill_n(one, room, std::uint8_t{0});
+  for (std::size_t c = 0; c < row.channels; ++c) {
+    const std::uint8_t* pixels = row.pixels + c * row.stride;
+    for (std::size_t x = 2; x < width; ++x) {
+      const auto change = static_cast<std::uint8_t>(std::max(pixels[x - 2], pixels[x]) -
+                                                    std::min(pixels[x - 2], pixels[x]));
+      const auto sum = static_cast<std::uint8_t>(one[kHalf + x] + std::min(change, kHighestCost));
+      one[kHalf + x] = std::min(sum, kHighestCost);
+    }
   }
-  before = start_.At(0);
-  lowest = 0;
-  for (std::size_t x = width_; x-- > 0;) {
-    std::uint8_t* fromRight = fromRight_.At(x & 1);
-    lowest = StepPath<kAlongRow>(before, lowest, CostsAt(x), lanes_, fromRight);
-    before = fromRight;
-    certainties[x] = Choose(x, fromRight, separations[x]);
+  const auto add = [room](const std::uint8_t* from, std::size_t distance, std::uint8_t* to) {
+    for (std::size_t x = 0; x < room - distance; ++x) {
+      const auto sum = static_cast<std::uint8_t>(from[x] + from[x + distance]);
+      to[x] = sum < kEnough ? sum : kEnough;
+    }
+  };
+  add(one, 1, eight);
+  add(eight, 2, four);
+  add(four, 4, eight);
+  for (std::size_t x = 0; x < width; ++x) {
+    const auto texture = static_cast<std::uint16_t>(eight[x] + four[x + 8] + one[x + 12]);
+    const std::uint16_t weight = texture < kEnough ? texture : kEnough;
+    certainties[x] =
+        static_cast<std::uint8_t>(static_cast<std::uint16_t>(certainties[x] * weight) / kEnough);
   }
-}
-
-void StripSearch::PreferHalves(int y, std::span<std::uint16_t> separations) const {
-  for (std::size_t x = 0; x < width_; ++x) {
-    if (IsTwiceTheRepeat(matchCost_, static_cast<int>(x), y, separations[x]))
-      separations[x] = static_cast<std::uint16_t>(separations[x] / 2);
-  }
-}
-
-void StripSearch::WeighByTexture(int y, std::span<std::uint8_t> certainties) const {
-  constexpr int kReach = 6;
-  constexpr int kEnough = (2 * kReach + 1) * MatchCost::kChanceCost / 4;
-  const int width = matchCost_.width();
-  const auto changeAt = [&](int x) { return x < 2 ? 0 : matchCost_.Difference(y, x - 2, x); };
-  int texture = 0;
-  for (int x = 0; x < std::min(kReach, width); ++x) texture += changeAt(x);
-  for (int x = 0; x < width; ++x) {
-    if (x + kReach < width) texture += changeAt(x + kReach);
-    if (x - kReach > 0) texture -= changeAt(x - kReach - 1);
-    std::uint8_t& certainty = certainties[static_cast<std::size_t>(x)];
-    certainty = static_cast<std::uint8_t>(certainty * std::min(texture, kEnough) / kEnough);
-  }
-}
-
-std::uint8_t StripSearch::Choose(std::size_t x, std::uint8_t* fromRight,
-                                 std::uint16_t& separation) {
-  const auto pairs = static_cast<std::size_t>(matchCost_.PairsAt(static_cast<int>(x)));
-  separation = 0;
-  if (pairs == 0) return 0;
-  const std::uint8_t* barred =
-      barred_.data() + static_cast<std::size_t>(matchCost_.range().count()) - pairs;
-  const std::uint8_t* fromLeft = fromLeft_.At(x);
-  const std::uint8_t* cost = CostsAt(x);
-  std::uint8_t* sum = sums_.data();
-  ByteLanes minimum = SameLanes(255);
-  for (std::size_t i = 0; i < lanes_; i += kByteLanes) {
-    // Both paths hold the cost of the pixel itself.
-    const ByteLanes paths = LoadLanes(fromLeft + i) + LoadLanes(fromRight + i);
-    const ByteLanes all = Max(paths - LoadLanes(cost + i), LoadLanes(barred + i));
-    StoreLanes(sum + i, all);
-    minimum = Min(minimum, all);
-  }
-  const std::uint8_t best = LowestLane(minimum);
-  std::size_t choice = Find(sum, best, pairs);
-  // The middle of three that are as good.
-  if (choice + 2 < pairs && sum[choice + 2] == best) ++choice;
-  separation = static_cast<std::uint16_t>(matchCost_.range().smallest + static_cast<int>(choice));
-  const std::size_t beside = std::min(choice, std::size_t{2});
-  std::fill(sum + choice - beside, sum + std::min(choice + 3, lanes_), kBarred);
-  const std::uint8_t other = Lowest(sum, lanes_);
-  return Certainty(best, other);
 }
 
 }  // namespace plenovia

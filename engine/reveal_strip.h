@@ -6,8 +6,8 @@
 #include <span>
 #include <vector>
 
-#include "engine/byte_lanes.h"
 #include "engine/match_cost.h"
+#include "engine/reveal_kernels.h"
 #include "platform/pixel_buffer.h"
 
 namespace plenovia {
@@ -29,45 +29,29 @@ class StripSearch {
            std::span<std::uint8_t> certainties);
 
  private:
-  // Path costs of `width` pixels, with room for the bytes around them that StepPath reads.
-  class Paths {
-   public:
-    Paths(const MatchCost& matchCost, std::size_t width);
-    std::uint8_t* At(std::size_t x) { return costs_.data() + kByteLanes + x * lanes_; }
-    std::uint8_t& LowestAt(std::size_t x) { return lowest_[x]; }
-
-   private:
-    std::size_t lanes_;
-    ByteBuffer costs_;
-    ByteBuffer lowest_;
-  };
-
-  std::uint8_t* CostsAt(std::size_t x) { return costs_.data() + x * lanes_; }
-  // Loads the costs of row `y` and steps all vertical paths there.
-  void StepToRow(int y, Paths& before, Paths& after);
-  // Turns the loaded costs into those that the row is searched with.
-  void AddMean(Paths& fromAbove, Paths& fromBelow);
-  void SearchRow(std::span<std::uint16_t> separations, std::span<std::uint8_t> certainties);
+  PathRow Outside() { return {outside_.data(), lowest_.data()}; }
+  // Lets all vertical paths begin before the next row.
+  void BeginPaths();
+  // Takes the paths from below to all rows of the strip.
+  void StepFromBelow(int first, int end);
+  // The costs of the paths from below in a row of the strip.
+  std::uint8_t* BelowAt(int row) {
+    return fromBelow_.data() + static_cast<std::size_t>(row) * outside_.size();
+  }
   // Corrects separations of row `y` that are twice what the row repeats at.
-  void PreferHalves(int y, std::span<std::uint16_t> separations) const;
+  void PreferHalves(int y, const PairRow& row, std::span<std::uint16_t> separations);
   // Lowers certainties where the row looks the same everywhere, so that any separation would fit.
-  void WeighByTexture(int y, std::span<std::uint8_t> certainties) const;
-  // Chooses the separation with the lowest sum of path costs; returns how certain it is.
-  std::uint8_t Choose(std::size_t x, std::uint8_t* fromRight, std::uint16_t& separation);
+  void WeighByTexture(const PairRow& row, std::span<std::uint8_t> certainties);
 
   const MatchCost& matchCost_;
-  std::size_t width_;
-  std::size_t lanes_;
+  const RevealKernels& kernels_;
   MatchCost::Scratch scratch_;
-  ByteBuffer costs_;              // of one row
-  Paths start_;                   // where every path begins
-  Paths fromLeft_;                // one row
-  Paths fromRight_;               // two pixels, in turn
-  std::vector<Paths> fromAbove_;  // two rows, in turn
-  std::vector<Paths> outside_;    // two rows below the strip, in turn
-  std::vector<Paths> fromBelow_;  // all rows of the strip
-  ByteBuffer sums_;               // of one pixel
-  ByteBuffer barred_;             // 0 for separations, 255 from then on
+  ByteBuffer outside_;                 // path costs of one row
+  ByteBuffer lowest_;                  // and their lowest
+  ByteBuffer alongRow_;                // room for the paths along one row
+  ByteBuffer fromBelow_;               // the path costs of all rows of the strip
+  ByteBuffer changes_;                 // along one row
+  std::vector<std::uint16_t> halves_;  // columns
 };
 
 }  // namespace plenovia

@@ -3,23 +3,12 @@
 #include <cstdlib>
 #include <limits>
 
-#include "engine/scan_rules.h"
-
 namespace plenovia {
 
 std::int64_t SeparationFromLevel(std::int32_t level, const TSirdsSettings& settings,
                                  SourceKind kind, int width) {
-  const ScanRules rules(width, settings.gapValue, kind, settings);
-  switch (settings.scanMethod) {
-    case kLeftToRight:
-      return -rules.LeftToRightDistance(level);
-    case kMcMahon:
-      return -rules.McMahonDistance(level);
-    case kFeucht:
-      return rules.FeuchtSeparation(level);
-    default:
-      return 0;
-  }
+  return ScanMethodOf(settings.scanMethod)
+      .separation(level, ScanSetup(width, settings.gapValue, kind, settings));
 }
 
 int LevelFromSeparation(int separation, const TSirdsSettings& settings, SourceKind kind,

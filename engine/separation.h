@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "engine/scan_methods.h"
+#include "engine/scan_method.h"
 #include "engine/sirds_settings.h"
 
 namespace plenovia {

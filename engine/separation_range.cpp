@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace plenovia {
@@ -13,32 +14,37 @@ constexpr int kWidest = 1024;
 constexpr int kSampleRows = 48;
 constexpr std::size_t kPiece = 12;  // pixels of a row that must repeat together
 
+// What repeats at two separations one after the other repeats at their sum too. Whether separation
+// `sum` looks like one: `costs`, those of all separations from 1 on, hold a match at 3 to 7 tenths
+// of it.
+bool IsSum(std::size_t sum, std::span<const std::uint8_t> costs, int highestOfMatch) {
+  const auto parts = costs.subspan(3 * sum / 10, 2 * sum / 5);
+  return std::any_of(parts.begin(), parts.end(), [=](int cost) { return cost <= highestOfMatch; });
+}
+
 // For each separation of `cost`, how many pieces of sampled rows repeat at it. Pieces that repeat
 // nearly everywhere have no texture and do not count.
 std::vector<int> CountRepeats(const MatchCost& cost) {
-  constexpr int kSame = static_cast<int>(kPiece) * MatchCost::kChanceCost / 8;
+  constexpr int kSame = static_cast<int>(kPiece) * kChanceCost / 8;
   const auto count = static_cast<std::size_t>(cost.range().count());
-  const auto width = static_cast<std::size_t>(cost.width());
+  const RevealKernels& kernels = FastestRevealKernels(count);
   std::vector<int> repeats(count);
-  std::vector<int> sums(count);
-  std::vector<std::uint8_t> costs(width * cost.lanes());
+  std::vector<std::uint8_t> sums(kernels.Lanes(count));
   MatchCost::Scratch scratch;
   const int rows = std::min(kSampleRows, cost.height());
   for (int i = 0; i < rows; ++i) {
     const auto y =
         static_cast<int>((2 * i + 1) * static_cast<std::int64_t>(cost.height()) / (2 * rows));
-    cost.Row(y, 0, scratch, costs);
-    for (std::size_t x = 0; x + kPiece <= width; x += kPiece) {
-      std::fill(sums.begin(), sums.end(), 0);
-      for (std::size_t j = 0; j < kPiece; ++j) {
-        const std::uint8_t* pixel = costs.data() + (x + j) * cost.lanes();
-        for (std::size_t s = 0; s < count; ++s) sums[s] += pixel[s];
-      }
-      const auto pairs = static_cast<std::size_t>(cost.PairsAt(static_cast<int>(x)));
+    const PairRow row = cost.Row(y, scratch);
+    for (std::size_t x = 0; x + kPiece <= row.width; x += kPiece) {
+      kernels.addCosts(row, x, kPiece, sums.data());
+      const std::size_t pairs = row.pairs[x];
       const auto end = sums.begin() + static_cast<std::ptrdiff_t>(pairs);
       const auto same = std::count_if(sums.begin(), end, [](int sum) { return sum <= kSame; });
       if (static_cast<std::size_t>(same) * 4 > pairs + 4) continue;
-      for (std::size_t s = 0; s < pairs; ++s) repeats[s] += sums[s] <= kSame;
+      for (std::size_t s = 0; s < pairs; ++s) {
+        repeats[s] += sums[s] <= kSame && !IsSum(s + 1, {sums.data(), pairs}, kSame);
+      }
     }
   }
   return repeats;
@@ -69,15 +75,18 @@ SeparationRange FindSeparationRange(const IndexedImage& picture) {
   if (at(strongest) < 2 * chance + 4) return widest;
 
   const int least = chance + std::max(2, (at(strongest) - chance) / 25);
-  // What repeats at a separation repeats at its double too, but less often.
+  // What repeats at a separation repeats at its double too, but less often. What lies close to the
+  // range goes on from it, as a slope does.
+  constexpr int kSlope = 8;
   const auto isDouble = [&](int s) {
     return 2 * std::max({at(s / 2 - 1), at(s / 2), at((s + 1) / 2)}) >= at(s);
   };
   SeparationRange range{strongest, strongest};
   // Beyond a wide stretch without repeats come sums of two separations.
-  for (int s = strongest + 1; s <= std::min(strongest * 9 / 4, range.largest + strongest / 2);
+  for (int s = strongest + 1; s <= std::min(strongest * 9 / 4, range.largest + strongest / 2 + 2);
        ++s) {
-    if (at(s) >= least && !isDouble(s)) range.largest = s;
+    const bool near = s - range.largest <= kSlope;
+    if (at(s) >= least && (near || !isDouble(s))) range.largest = s;
   }
   // Near parts are often too small or too steep to leave a trace in the count.
   range.smallest = std::max(1, strongest * 9 / 25 - 1);

@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "engine/scan_method.h"
 #include "platform/leading_number.h"
 
 namespace plenovia {
@@ -16,7 +17,7 @@ struct Key {
 };
 
 // In the order in which they are written.
-constexpr std::array<Key, 12> kKeys = {{
+constexpr std::array<Key, 13> kKeys = {{
     {"dx", &TSirdsSettings::dx},
     {"dy", &TSirdsSettings::dy},
     {"da", &TSirdsSettings::da},
@@ -29,8 +30,24 @@ constexpr std::array<Key, 12> kKeys = {{
     {"UseBMP", &TSirdsSettings::useBmp},
     {"DepthSel", &TSirdsSettings::depthSel},
     {"ShiftDir", &TSirdsSettings::scanMethod},
+    {"FitRange", &TSirdsSettings::fitRange},
 }};
 constexpr char kSection[] = "DEMO";
+
+struct TypedNumber {
+  std::string SirdsSettingsEntry::*text;
+  std::int32_t TSirdsSettings::*field;
+};
+constexpr std::array<TypedNumber, 8> kTypedNumbers = {{
+    {&SirdsSettingsEntry::w, &TSirdsSettings::w},
+    {&SirdsSettingsEntry::h, &TSirdsSettings::h},
+    {&SirdsSettingsEntry::gapValue, &TSirdsSettings::gapValue},
+    {&SirdsSettingsEntry::dx, &TSirdsSettings::dx},
+    {&SirdsSettingsEntry::dy, &TSirdsSettings::dy},
+    {&SirdsSettingsEntry::da, &TSirdsSettings::da},
+    {&SirdsSettingsEntry::zmin, &TSirdsSettings::zmin},
+    {&SirdsSettingsEntry::zmax, &TSirdsSettings::zmax},
+}};
 
 constexpr std::size_t kMostTyped = 19;
 std::int32_t Typed(std::string_view text) {
@@ -54,11 +71,10 @@ TSirdsSettings Settle(TSirdsSettings settings) {
   if (settings.depthSel != kDepthByColor && settings.depthSel != kDepthByBrightness) {
     settings.depthSel = defaults.depthSel;
   }
-  if (settings.scanMethod < kLeftToRight || settings.scanMethod > kFeucht) {
-    settings.scanMethod = defaults.scanMethod;
-  }
+  if (!IsScanMethod(settings.scanMethod)) settings.scanMethod = defaults.scanMethod;
   settings.marker = settings.marker != 0 ? 1 : 0;
   settings.useBmp = settings.useBmp != 0 ? 1 : 0;
+  settings.fitRange = settings.fitRange != 0 ? 1 : 0;
   settings.dx = ZeroBeyond(settings.dx, 200);
   settings.dy = ZeroBeyond(settings.dy, 200);
   settings.da = ZeroBeyond(settings.da, 180);
@@ -79,15 +95,35 @@ TSirdsSettings Normalise(const SirdsSettingsEntry& entry) {
   settings.scanMethod = entry.scanPosition + 1;
   settings.marker = entry.addMarkers ? 1 : 0;
   settings.useBmp = entry.useOpenBitmap ? 1 : 0;
-  settings.dx = Typed(entry.dx);
-  settings.dy = Typed(entry.dy);
-  settings.da = Typed(entry.da);
-  settings.zmin = Typed(entry.zmin);
-  settings.zmax = Typed(entry.zmax);
-  settings.gapValue = Typed(entry.gapValue);
-  settings.w = Typed(entry.w);
-  settings.h = Typed(entry.h);
+  settings.fitRange = entry.fitRange ? 1 : 0;
+  for (const TypedNumber& number : kTypedNumbers) {
+    settings.*number.field = Typed(entry.*number.text);
+  }
   return Settle(settings);
+}
+
+bool SaysNumber(std::string_view text, std::int32_t value) {
+  const auto dropWhile = [&text](std::string_view characters) {
+    text.remove_prefix(std::min(text.find_first_not_of(characters), text.size()));
+  };
+  dropWhile(" ");
+  text = text.substr(0, text.find_last_not_of(' ') + 1);
+  const bool isNegative = text.starts_with('-');
+  if (isNegative || text.starts_with('+')) text.remove_prefix(1);
+  if (text.empty()) return false;
+  dropWhile("0");
+  const std::string digits = text.empty() ? "0" : std::string(text);
+  return (isNegative && digits != "0" ? "-" : "") + digits == std::to_string(value);
+}
+
+std::vector<Replacement> Replacements(const SirdsSettingsEntry& entry) {
+  const TSirdsSettings record = Normalise(entry);
+  std::vector<Replacement> replaced;
+  for (const TypedNumber& number : kTypedNumbers) {
+    const std::int32_t value = record.*number.field;
+    if (!SaysNumber(entry.*number.text, value)) replaced.push_back({number.text, value});
+  }
+  return replaced;
 }
 
 TSirdsSettings LoadSirdsSettings(const ProfileFile& profile) {

@@ -2,13 +2,16 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/profile_file.h"
 
 namespace plenovia {
 
-enum ScanMethod : std::int32_t { kLeftToRight = 1, kMcMahon = 2, kFeucht = 3 };
+// The numbers of the scan methods that the code names; scan_method.h has them all.
+enum ScanMethodNumber : std::int32_t { kLeftToRight = 1, kMcMahon = 2, kFeucht = 3, kSmooth = 4 };
 enum DepthSelection : std::int32_t { kDepthByColor = 1, kDepthByBrightness = 2 };
 
 // Sizes and displacements are pixels of the stereogram, depths are levels (0 is the far plane).
@@ -25,6 +28,8 @@ struct TSirdsSettings {
   std::int32_t marker = 1;  // 1: two marker squares are drawn
   std::int32_t useBmp = 0;  // 1: a figure is drawn over the open picture
   std::int32_t scanMethod = kMcMahon;
+  // 1: a window fits the depth range of a run to the source where that needs it
+  std::int32_t fitRange = 1;
 
   bool operator==(const TSirdsSettings&) const = default;
 };
@@ -35,16 +40,32 @@ void RestoreDefaults(TSirdsSettings& settings);
 // What the settings dialog holds when it is closed: texts as typed, of which the first 19
 // characters count, and the states of its boxes.
 struct SirdsSettingsEntry {
-  std::string_view dx, dy, da, zmin, zmax, gapValue, w, h;
+  std::string dx, dy, da, zmin, zmax, gapValue, w, h;
   bool depthByColor = true;
   int scanPosition = 0;  // position in the list of scan methods, from 0
   bool addMarkers = true;
   bool useOpenBitmap = false;
+  bool fitRange = true;
 };
 
 // The record that an entry stands for. Nothing is refused: a number out of its range is replaced,
 // and zmin and zmax change places when they are the wrong way round.
 TSirdsSettings Normalise(const SirdsSettingsEntry& entry);
+
+// Whether the text is the decimal number `value` and nothing else; blanks around it, a plus sign
+// and leading zeros do not count.
+bool SaysNumber(std::string_view text, std::int32_t value);
+
+// A text of an entry that the record does not take as it was typed.
+struct Replacement {
+  std::string SirdsSettingsEntry::*typed;
+  std::int32_t becomes;
+  bool operator==(const Replacement&) const = default;
+};
+
+// What Normalise makes of an entry's numbers that it does not take, in the order in which the
+// settings dialog shows them: w, h, gapValue, dx, dy, da, zmin, zmax.
+std::vector<Replacement> Replacements(const SirdsSettingsEntry& entry);
 
 // The same rules on a record of any numbers, such as one from a settings file that was edited by
 // hand. A scan method or depth selection that does not exist becomes the default one.

@@ -3,13 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "engine/sirds_settings.h"
-
 namespace plenovia {
-
-int TileOrigin(std::int32_t scanMethod, int width, int tileWidth) {
-  return scanMethod == kLeftToRight ? 0 : width / 2 - tileWidth / 2;
-}
 
 void TilePatternRow(std::span<std::uint8_t> row, const IndexedImage& tile, int origin, int y) {
   const auto source = tile.Row(y % tile.height());
@@ -26,11 +20,6 @@ void TilePatternRow(std::span<std::uint8_t> row, const IndexedImage& tile, int o
     std::memcpy(row.data() + done, row.data(), count);
     done += count;
   }
-}
-
-void TilePattern(IndexedImage& picture, const IndexedImage& tile, std::int32_t scanMethod) {
-  const int origin = TileOrigin(scanMethod, picture.width(), tile.width());
-  for (int y = 0; y < picture.height(); ++y) TilePatternRow(picture.Row(y), tile, origin, y);
 }
 
 }  // namespace plenovia

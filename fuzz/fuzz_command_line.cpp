@@ -168,6 +168,7 @@ constexpr std::array kKnownWords = {
     "left-to-right",
     "mcmahon",
     "feucht",
+    "smooth",
     "--zmin",
     "-9",
     "--zmax",

@@ -5,15 +5,15 @@
 #include <cstdlib>
 #include <span>
 
+#include "codec/decoded_picture.h"
 #include "codec/encoded_picture.h"
-#include "platform/indexed_image.h"
 #include "platform/result.h"
 
 namespace plenovia {
 
 // Reads the bytes; a picture that comes out must come out again, with the same indexes and the same
 // colours, when it is written and read. Aborts otherwise.
-inline void CheckPictureRoundTrip(Result<IndexedImage> (*decode)(std::span<const std::uint8_t>),
+inline void CheckPictureRoundTrip(Result<DecodedPicture> (*decode)(std::span<const std::uint8_t>),
                                   Result<EncodedPicture> (*encode)(const IndexedImage&),
                                   std::span<const std::uint8_t> bytes) {
   auto picture = decode(bytes);

@@ -1,10 +1,10 @@
 #include "images/add_pattern.h"
 
+#include <algorithm>
 #include <string>
 #include <system_error>
 
 #include "codec/graph_io.h"
-#include "images/pattern_files.h"
 
 namespace plenovia {
 
@@ -14,36 +14,32 @@ namespace {
 
 constexpr int kSide = 100;
 
-// Whether a new file of that name would harm nothing.
-bool IsFree(const fs::path& file) {
-  std::error_code ignored;
-  return fs::symlink_status(file, ignored).type() == fs::file_type::not_found;
-}
-
-Result<std::string> FreeName(const fs::path& folder, const fs::path& userFolder) {
-  for (int number = 0; number < kMostPatternFiles; ++number) {
-    const std::string name = PatternFileName(number);
-    if (IsFree(folder / name) && IsFree(userFolder / name)) return name;
-  }
-  return Failure(ErrorCode::kTooLarge, "there are too many patterns");
+int NextNumber(const PatternFolders& folders) {
+  const auto files = FindPatternFiles(folders);
+  return files.empty() ? kShippedPatterns : std::max(kShippedPatterns, files.back().number + 1);
 }
 
 // The file that was written.
-Result<fs::path> SaveIn(const fs::path& folder, const std::string& name, const IndexedImage& tile) {
-  if (folder.empty()) return Failure(ErrorCode::kIo, "there is no folder for patterns");
+Result<PatternFile> SaveIn(const fs::path& folder, int number, const IndexedImage& tile) {
+  if (folder.empty()) {
+    return Failure(ErrorCode::kIo, "There is no folder in which patterns can be kept.");
+  }
   TGraphIO codec;
   codec.SetGraphicFormat(static_cast<int>(GraphicFormat::kGif));
-  const fs::path file = folder / name;
-  if (auto written = codec.Write_File(file, tile); !written) return tl::unexpected(written.error());
-  return file;
+  const fs::path file = folder / PatternFileName(number);
+  if (auto written = codec.Write_File(file, tile); !written) {
+    return Failure(written.error().code, file.string() + ": " + written.error().message);
+  }
+  return PatternFile{number, file};
 }
 
-Result<fs::path> Save(const fs::path& folder, const fs::path& userFolder, const std::string& name,
-                      const IndexedImage& tile) {
-  if (auto file = SaveIn(folder, name, tile)) return file;
+Result<PatternFile> Save(const PatternFolders& folders, int number, const IndexedImage& tile) {
+  if (folders.programTakesNew) {
+    if (auto file = SaveIn(folders.program, number, tile)) return file;
+  }
   std::error_code ignored;
-  fs::create_directories(userFolder, ignored);
-  return SaveIn(userFolder, name, tile);
+  fs::create_directories(folders.user, ignored);
+  return SaveIn(folders.user, number, tile);
 }
 
 }  // namespace
@@ -60,18 +56,19 @@ Result<IndexedImage> CutPattern(const IndexedImage& picture) {
   return tile;
 }
 
-Result<void> AddPattern(TSirdPatt& library, const IndexedImage& picture,
-                        const fs::path& userFolder) {
+Result<void> AddPattern(TSirdPatt& library, const IndexedImage& picture) {
   const auto tile = CutPattern(picture);
   if (!tile) return tl::unexpected(tile.error());
-  const auto name = FreeName(library.GetDirectory(), userFolder);
-  if (!name) return tl::unexpected(name.error());
-  const auto file = Save(library.GetDirectory(), userFolder, *name, *tile);
+  const int number = NextNumber(library.GetFolders());
+  if (number >= kMostPatternFiles) {
+    return Failure(ErrorCode::kTooLarge, "there are too many patterns");
+  }
+  const auto file = Save(library.GetFolders(), number, *tile);
   if (!file) return tl::unexpected(file.error());
   auto loaded = library.LoadPatternFile(*file);
   if (!loaded) {
     std::error_code ignored;
-    fs::remove(*file, ignored);
+    fs::remove(file->path, ignored);
   }
   return loaded;
 }

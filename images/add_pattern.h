@@ -1,8 +1,6 @@
 // New patterns, cut out of pictures.
 #pragma once
 
-#include <filesystem>
-
 #include "images/sird_patt.h"
 #include "platform/indexed_image.h"
 #include "platform/result.h"
@@ -13,11 +11,10 @@ namespace plenovia {
 // repeated to fill it; an empty one is an error.
 [[nodiscard]] Result<IndexedImage> CutPattern(const IndexedImage& picture);
 
-// Saves the picture's corner as a GIF file under the first number that is free both in the
-// library's folder and in `userFolder`, and appends it to the library. The file goes to the
-// library's folder, or, where that cannot be written, to `userFolder`, which is made when it is not
-// there. On failure the library is unchanged and no file is left.
-[[nodiscard]] Result<void> AddPattern(TSirdPatt& library, const IndexedImage& picture,
-                                      const std::filesystem::path& userFolder);
+// Saves the picture's corner as a GIF file under the number after the highest (of the shipped ones,
+// and of all files that lie in the library's folders), and appends it to the library. The file goes
+// to the program's folder, or, where that takes none or cannot be written, to the user's, which is
+// made when it is not there. On failure the library is unchanged and no file is left.
+[[nodiscard]] Result<void> AddPattern(TSirdPatt& library, const IndexedImage& picture);
 
 }  // namespace plenovia

@@ -27,7 +27,7 @@ Result<IndexedImage> CutPicture(const IndexedImage& picture, const PixelRect& pa
   const Stretch columns = Clip(part.left, part.right, picture.width());
   const Stretch rows = Clip(part.top, part.bottom, picture.height());
   if (columns.count < 1 || rows.count < 1) {
-    return Failure(ErrorCode::kInvalid, "there is nothing of the picture to cut");
+    return Failure(ErrorCode::kInvalid, "There is nothing of the picture to cut.");
   }
   auto cut = IndexedImage::Create(static_cast<int>(columns.count), static_cast<int>(rows.count),
                                   picture.palette());

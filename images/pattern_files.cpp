@@ -10,24 +10,42 @@ namespace plenovia {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+constexpr char kFolderName[] = "sirdspat";
+
+// In no order. None when there is no such folder.
+std::vector<PatternFile> FilesIn(const fs::path& folder) {
+  std::vector<PatternFile> files;
+  std::error_code failed;
+  for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
+       entry.increment(failed)) {
+    const std::string name = entry->path().filename();
+    const int number = name.starts_with("pat") ? LeadingNumber(name.substr(3)) : -1;
+    if (number < 0 || number >= kMostPatternFiles) continue;
+    if (name == PatternFileName(number)) files.push_back({number, entry->path()});
+  }
+  return files;
+}
+
+}  // namespace
+
 std::string PatternFileName(int number) {
   return (number < 10 ? "pat0" : "pat") + std::to_string(number) + ".gif";
 }
 
-std::optional<fs::path> FindPatternFolder(const fs::path& program) {
-  const std::string name = "sirdspat";
-  const auto holdsPatterns = [](const fs::path& folder) {
-    std::error_code ignored;
-    return fs::is_regular_file(folder / PatternFileName(0), ignored);
-  };
+PatternFolders FindPatternFolders(const fs::path& program) {
+  const fs::path user = UserPatternFolder();
   const fs::path home = program.parent_path();
-  for (const fs::path& folder : {home / name, home.parent_path() / "share" / "plenovia" / name}) {
-    if (holdsPatterns(folder)) return folder;
+  for (const fs::path& folder :
+       {home / kFolderName, home.parent_path() / "share" / "plenovia" / kFolderName}) {
+    if (!FilesIn(folder).empty()) return {folder, user, true};
   }
   for (fs::path above = home; above != above.parent_path(); above = above.parent_path()) {
-    if (holdsPatterns(above.parent_path() / name)) return above.parent_path() / name;
+    const fs::path folder = above.parent_path() / kFolderName;
+    if (!FilesIn(folder).empty()) return {folder, user, false};
   }
-  return std::nullopt;
+  return {{}, user, false};
 }
 
 fs::path UserPatternFolder() {
@@ -38,31 +56,16 @@ fs::path UserPatternFolder() {
   };
   fs::path data = folderOf("XDG_DATA_HOME");
   if (data.empty() && !folderOf("HOME").empty()) data = folderOf("HOME") / ".local" / "share";
-  return data.empty() ? data : data / "plenovia" / "sirdspat";
+  return data.empty() ? data : data / "plenovia" / kFolderName;
 }
 
-std::optional<fs::path> FindPatternFile(int number, const fs::path& folder,
-                                        const fs::path& userFolder) {
-  for (const fs::path& home : {folder, userFolder}) {
-    std::error_code ignored;
-    const fs::path file = home / PatternFileName(number);
-    if (!home.empty() && fs::is_regular_file(file, ignored)) return file;
-  }
-  return std::nullopt;
-}
-
-std::vector<int> PatternNumbersIn(const fs::path& folder) {
-  std::vector<int> numbers;
-  std::error_code failed;
-  for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
-       entry.increment(failed)) {
-    const std::string name = entry->path().filename();
-    const int number = name.starts_with("pat") ? LeadingNumber(name.substr(3)) : -1;
-    if (number < 0 || number >= kMostPatternFiles) continue;
-    if (name == PatternFileName(number)) numbers.push_back(number);
-  }
-  std::sort(numbers.begin(), numbers.end());
-  return numbers;
+std::vector<PatternFile> FindPatternFiles(const PatternFolders& folders) {
+  std::vector<PatternFile> files = FilesIn(folders.program);
+  const std::vector<PatternFile> added = FilesIn(folders.user);
+  files.insert(files.end(), added.begin(), added.end());
+  std::stable_sort(files.begin(), files.end(),
+                   [](const PatternFile& a, const PatternFile& b) { return a.number < b.number; });
+  return files;
 }
 
 fs::path ProgramFile() {

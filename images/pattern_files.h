@@ -2,7 +2,6 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,26 +11,33 @@ namespace plenovia {
 std::string PatternFileName(int number);
 // How many come with the program.
 inline constexpr int kShippedPatterns = 20;
-// Numbers are below this: a damaged settings file must not keep us for hours.
+// Numbers are below this.
 inline constexpr int kMostPatternFiles = 10000;
 
-// The folder "sirdspat" that belongs to a program file: beside it; in the share folder of the same
-// installation; or, for a program in a build folder, in the source tree above it. None when there
-// is no such folder.
-std::optional<std::filesystem::path> FindPatternFolder(const std::filesystem::path& program);
+struct PatternFolders {
+  std::filesystem::path program;  // of the files that come with the program; empty: there is none
+  std::filesystem::path user;     // of the user's own; it need not exist; empty: there is no home
+  // New files go to `program` when it can be written. False for a program in a build folder: its
+  // files are those of the source tree.
+  bool programTakesNew = true;
+};
 
-// "plenovia/sirdspat" in the user's data folder ($XDG_DATA_HOME), where patterns are added when the
-// program's own folder cannot be written; it need not exist. Empty when the user has no home.
+// Of the program file `program`. Its own folder is called "sirdspat" and holds at least one pattern
+// file: beside the program; in the share folder of the same installation; or, for a program in a
+// build folder, in the source tree above it. The user's folder is UserPatternFolder().
+PatternFolders FindPatternFolders(const std::filesystem::path& program);
+
+// "plenovia/sirdspat" in the user's data folder ($XDG_DATA_HOME). Empty when the user has no home.
 std::filesystem::path UserPatternFolder();
 
-// The file of this number in `folder`, or else in `userFolder`. None when neither has it.
-std::optional<std::filesystem::path> FindPatternFile(int number,
-                                                     const std::filesystem::path& folder,
-                                                     const std::filesystem::path& userFolder);
+struct PatternFile {
+  int number = 0;
+  std::filesystem::path path;
+};
 
-// The numbers of the pattern files that lie in a folder, in their order; none when there is no such
-// folder.
-std::vector<int> PatternNumbersIn(const std::filesystem::path& folder);
+// All pattern files of both folders, by number. Where both have the number, the program's file
+// comes first. The files need not be readable.
+std::vector<PatternFile> FindPatternFiles(const PatternFolders& folders);
 
 // The file of the program that is running; empty when the system does not tell.
 std::filesystem::path ProgramFile();

@@ -2,106 +2,80 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "codec/gif_intf.h"
-#include "images/pattern_files.h"
 
 namespace plenovia {
 
 namespace {
 
-TPattObj* NextOf(TPattObj* entry) {
-  return static_cast<TPattObj*>(entry->GetNext());
-}
-
-std::vector<std::filesystem::path> FilesToTry(const std::filesystem::path& directory,
-                                              const std::filesystem::path& userFolder, int count) {
-  const std::vector<int> added = PatternNumbersIn(userFolder);
-  const int shipped = std::max(std::min(count, kMostPatternFiles) - static_cast<int>(added.size()),
-                               kShippedPatterns);
-  std::vector<std::filesystem::path> files;
-  for (int n = 0; n < shipped; ++n) files.push_back(directory / PatternFileName(n));
-  for (const int n : added) files.push_back(userFolder / PatternFileName(n));
+std::vector<PatternFile> FilesToTry(const PatternFolders& folders) {
+  std::vector<PatternFile> files = FindPatternFiles(folders);
+  for (int n = 0; n < kShippedPatterns; ++n) {
+    const auto place =
+        std::lower_bound(files.begin(), files.end(), n,
+                         [](const PatternFile& file, int number) { return file.number < number; });
+    if (place != files.end() && place->number == n) continue;
+    files.insert(place, {n, folders.program / PatternFileName(n)});
+  }
   return files;
 }
 
 }  // namespace
 
-TSirdPatt::TSirdPatt(TSirdPatt&& other) noexcept {
-  *this = std::move(other);
-}
-
-TSirdPatt& TSirdPatt::operator=(TSirdPatt&& other) noexcept {
-  std::swap(directory_, other.directory_);
-  std::swap(first_, other.first_);
-  std::swap(current_, other.current_);
-  return *this;
-}
-
-TSirdPatt::~TSirdPatt() {
-  if (first_ != nullptr) first_->DeleteRest();
-  delete first_;
-}
-
-Result<void> TSirdPatt::LoadPatternFile(const std::filesystem::path& name) {
-  auto picture = TGifIntf::Read_File(directory_ / name);
+Result<void> TSirdPatt::LoadPatternFile(const PatternFile& file) {
+  auto picture = TGifIntf::Read_File(file.path);
   if (!picture) return tl::unexpected(picture.error());
-  AppendPattern(std::make_shared<const IndexedImage>(std::move(*picture)));
+  entries_.push_back({file.number, std::make_shared<const IndexedImage>(std::move(*picture))});
   return {};
 }
 
 void TSirdPatt::AppendPattern(std::shared_ptr<const IndexedImage> bitmap) {
-  auto* entry = new TPattObj(std::move(bitmap));
-  if (first_ == nullptr) {
-    first_ = entry;
-    return;
-  }
-  TLinkObj* last = first_->GetLast();
-  last->SetNext(entry);
-  entry->SetPrev(last);
+  int number = 0;
+  for (const Entry& entry : entries_) number = std::max(number, entry.number + 1);
+  entries_.push_back({number, std::move(bitmap)});
 }
 
 void TSirdPatt::SelectPattern(int index) {
-  current_ = first_;
-  if (index < 0 || index >= GetCount()) return;
-  for (int i = 0; i < index; ++i) current_ = NextOf(current_);
+  if (entries_.empty()) return;
+  current_ = index < 0 || index >= GetCount() ? 0 : index;
+}
+
+void TSirdPatt::SelectNumber(int number) {
+  const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                  [=](const Entry& entry) { return entry.number == number; });
+  SelectPattern(static_cast<int>(found - entries_.begin()));
 }
 
 int TSirdPatt::GetCurrentIndex() const {
-  int index = 0;
-  for (TPattObj* entry = first_; entry != nullptr && entry != current_; entry = NextOf(entry)) {
-    ++index;
-  }
-  return index;
+  return current_ < 0 ? GetCount() : current_;
 }
 
-int TSirdPatt::GetCount() const {
-  int count = 0;
-  for (TPattObj* entry = first_; entry != nullptr; entry = NextOf(entry)) ++count;
-  return count;
+int TSirdPatt::GetCurrentNumber() const {
+  return Current() == nullptr ? 0 : Current()->number;
 }
 
 std::shared_ptr<const IndexedImage> TSirdPatt::GetCurrentBitmap() const {
-  return current_ == nullptr ? nullptr : current_->GetBitmap();
+  return Current() == nullptr ? nullptr : Current()->bitmap;
 }
 
 const Palette* TSirdPatt::GetCurrentPalette() const {
-  return current_ == nullptr ? nullptr : &current_->GetBitmap()->palette();
+  return Current() == nullptr ? nullptr : &Current()->bitmap->palette();
 }
 
-TSirdPatt LoadPatterns(const std::filesystem::path& directory,
-                       const std::filesystem::path& userFolder, int start, int count,
-                       const PatternProgress& progress) {
-  TSirdPatt library(directory);
-  const std::vector<std::filesystem::path> files = FilesToTry(directory, userFolder, count);
-  const int all = static_cast<int>(files.size());
-  for (int tried = 0; tried < all; ++tried) {
-    const bool loaded = library.LoadPatternFile(files[static_cast<std::size_t>(tried)]).has_value();
-    if (!loaded) start = 0;
-    if (progress) progress(tried + 1, all, loaded);
+const TSirdPatt::Entry* TSirdPatt::Current() const {
+  return current_ < 0 ? nullptr : &entries_[static_cast<std::size_t>(current_)];
+}
+
+TSirdPatt LoadPatterns(const PatternFolders& folders, int start, const PatternProgress& progress) {
+  TSirdPatt library(folders);
+  const std::vector<PatternFile> files = FilesToTry(folders);
+  int tried = 0;
+  for (const PatternFile& file : files) {
+    const bool loaded = library.LoadPatternFile(file).has_value();
+    if (progress) progress(++tried, static_cast<int>(files.size()), loaded);
   }
-  library.SelectPattern(start);
+  library.SelectNumber(start);
   return library;
 }
 

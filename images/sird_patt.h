@@ -2,11 +2,11 @@
 // current.
 #pragma once
 
-#include <filesystem>
 #include <functional>
 #include <memory>
+#include <vector>
 
-#include "images/patt_obj.h"
+#include "images/pattern_files.h"
 #include "platform/indexed_image.h"
 #include "platform/result.h"
 
@@ -14,47 +14,52 @@ namespace plenovia {
 
 class TSirdPatt {
  public:
-  // Empty. Pattern files lie in `directory`.
-  explicit TSirdPatt(std::filesystem::path directory) : directory_(std::move(directory)) {}
-  TSirdPatt(TSirdPatt&& other) noexcept;
-  TSirdPatt& operator=(TSirdPatt&& other) noexcept;
-  ~TSirdPatt();
+  // Empty. New pattern files go to one of `folders`.
+  explicit TSirdPatt(PatternFolders folders = {}) : folders_(std::move(folders)) {}
 
-  const std::filesystem::path& GetDirectory() const { return directory_; }
+  const PatternFolders& GetFolders() const { return folders_; }
 
-  // Reads a GIF file and appends it; a relative name lies in the directory. On failure the library
-  // is unchanged.
-  [[nodiscard]] Result<void> LoadPatternFile(const std::filesystem::path& name);
-  // The picture becomes the last entry; the current one stays.
+  // Reads a GIF file and appends it under the file's number. On failure the library is unchanged.
+  [[nodiscard]] Result<void> LoadPatternFile(const PatternFile& file);
+  // The picture becomes the last entry, with the number after the highest; the current one stays.
   void AppendPattern(std::shared_ptr<const IndexedImage> bitmap);
 
   // Makes the entry at this position (from 0) current, the first one when there is no such
   // position.
   void SelectPattern(int index);
+  // The same for the entry of this number: the first one of several.
+  void SelectNumber(int number);
   // The position of the current entry; without one, the number of entries.
   int GetCurrentIndex() const;
-  int GetCount() const;
+  // The number of the current entry's file: its position as long as no file is missing. 0 without a
+  // current entry.
+  int GetCurrentNumber() const;
+  int GetCount() const { return static_cast<int>(entries_.size()); }
   // The current tile with its palette, or null.
   std::shared_ptr<const IndexedImage> GetCurrentBitmap() const;
   // Its palette, or null; valid as long as the tile.
   const Palette* GetCurrentPalette() const;
 
  private:
-  std::filesystem::path directory_;
-  TPattObj* first_ = nullptr;  // owned, with all that follows it
-  TPattObj* current_ = nullptr;
+  struct Entry {
+    int number;
+    std::shared_ptr<const IndexedImage> bitmap;
+  };
+  const Entry* Current() const;
+
+  PatternFolders folders_;
+  std::vector<Entry> entries_;
+  int current_ = -1;  // -1: none
 };
 
 // Called after each file that was tried, with the number of files tried so far and in all, and
 // whether this one was loaded.
 using PatternProgress = std::function<void(int done, int count, bool loaded)>;
 
-// The library of the directory's files and, after them, of all that lie in the user's folder:
-// `count` files in all (at most 10000), but never less than 20 of the directory, from number 0 on.
-// Files that are missing or cannot be read are passed over; when there was one, the first pattern
-// becomes current, else the one at `start`.
-TSirdPatt LoadPatterns(const std::filesystem::path& directory,
-                       const std::filesystem::path& userFolder, int start, int count,
+// The library of all pattern files, by number. The shipped ones are tried even where they are
+// missing; what cannot be read is left out. The tile of number `start` becomes current, the first
+// one when there is none of that number.
+TSirdPatt LoadPatterns(const PatternFolders& folders, int start,
                        const PatternProgress& progress = {});
 
 }  // namespace plenovia

@@ -23,7 +23,7 @@ namespace fs = std::filesystem;
 namespace {
 
 tl::unexpected<Error> SystemFailure(const std::string& what) {
-  return Failure(ErrorCode::kIo, what + ": " + std::strerror(errno));
+  return Failure(ErrorCode::kIo, what + ": " + std::strerror(errno) + ".");
 }
 
 // A file descriptor that closes itself.
@@ -79,25 +79,25 @@ fs::path FollowLinks(fs::path path) {
 
 Result<ByteBuffer> ReadFile(const fs::path& path, std::size_t most) {
   const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (file.get() < 0) return SystemFailure("cannot be opened");
+  if (file.get() < 0) return SystemFailure("The file cannot be opened");
   struct stat status {};
-  if (fstat(file.get(), &status) != 0) return SystemFailure("cannot be read");
-  if (S_ISDIR(status.st_mode)) return Failure(ErrorCode::kIo, "is a directory");
-  if (!S_ISREG(status.st_mode)) return Failure(ErrorCode::kIo, "is not a regular file");
+  if (fstat(file.get(), &status) != 0) return SystemFailure("The file cannot be read");
+  if (S_ISDIR(status.st_mode)) return Failure(ErrorCode::kIo, "The file is a directory.");
+  if (!S_ISREG(status.st_mode)) return Failure(ErrorCode::kIo, "The file is not a regular file.");
   const auto size = static_cast<std::size_t>(status.st_size);
-  if (size > most) return Failure(ErrorCode::kTooLarge, "the file is too large");
+  if (size > most) return Failure(ErrorCode::kTooLarge, "The file is too large.");
 
   ByteBuffer bytes;
   try {
     bytes.resize(size);
   } catch (const std::bad_alloc&) {
-    return Failure(ErrorCode::kTooLarge, "there is not enough memory to read the file");
+    return Failure(ErrorCode::kTooLarge, "There is not enough memory to read the file.");
   }
   std::size_t done = 0;
   while (done < size) {
     const ssize_t got = read(file.get(), bytes.data() + done, size - done);
     if (got < 0 && errno == EINTR) continue;
-    if (got < 0) return SystemFailure("cannot be read");
+    if (got < 0) return SystemFailure("The file cannot be read");
     if (got == 0) break;
     done += static_cast<std::size_t>(got);
   }
@@ -110,22 +110,25 @@ Result<void> WriteFile(const fs::path& path,
   const fs::path target = FollowLinks(path);
   struct stat old {};
   const bool replaces = stat(target.c_str(), &old) == 0;
-  if (!replaces && errno != ENOENT) return SystemFailure("cannot be written");
-  if (replaces && S_ISDIR(old.st_mode)) return Failure(ErrorCode::kIo, "is a directory");
-  if (replaces && !S_ISREG(old.st_mode)) return Failure(ErrorCode::kIo, "is not a regular file");
-  if (replaces && access(target.c_str(), W_OK) != 0) return SystemFailure("cannot be written");
+  if (!replaces && errno != ENOENT) return SystemFailure("The file cannot be written");
+  if (replaces && S_ISDIR(old.st_mode)) return Failure(ErrorCode::kIo, "The file is a directory.");
+  if (replaces && !S_ISREG(old.st_mode))
+    return Failure(ErrorCode::kIo, "The file is not a regular file.");
+  if (replaces && access(target.c_str(), W_OK) != 0)
+    return SystemFailure("The file cannot be written");
 
   // Without the set-user-ID bit: the new file is the saver's own, whoever the old one belonged to.
   const mode_t permissions = replaces ? old.st_mode & 0777 : 0666;
   TemporaryFile file(target, permissions);
-  if (file.descriptor() < 0) return SystemFailure("cannot be written");
-  if (!WriteAll(file.descriptor(), pieces)) return SystemFailure("cannot be written");
+  if (file.descriptor() < 0) return SystemFailure("The file cannot be written");
+  if (!WriteAll(file.descriptor(), pieces)) return SystemFailure("The file cannot be written");
   if (replaces && fchmod(file.descriptor(), permissions) != 0) {
-    return SystemFailure("cannot be written");
+    return SystemFailure("The file cannot be written");
   }
-  // Without this a power failure soon after the renaming could lose the old file and the new one.
-  if (replaces && fdatasync(file.descriptor()) != 0) return SystemFailure("cannot be written");
-  if (!file.Replace(target)) return SystemFailure("cannot be written");
+  // Without this a power failure soon after the renaming could lose the old file and the new one,
+  // or leave a new one without its contents.
+  if (fdatasync(file.descriptor()) != 0) return SystemFailure("The file cannot be written");
+  if (!file.Replace(target)) return SystemFailure("The file cannot be written");
   return {};
 }
 

@@ -14,9 +14,9 @@ Result<IndexedImage> IndexedImage::Create(int width, int height, const Palette& 
   try {
     image.pixels_.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
   } catch (const std::bad_alloc&) {
-    return Failure(ErrorCode::kTooLarge, "there is not enough memory for a picture of " +
-                                             std::to_string(width) + "x" + std::to_string(height) +
-                                             " pixels");
+    return Failure(ErrorCode::kTooLarge, "There is not enough memory for a picture of " +
+                                             std::to_string(width) + " x " +
+                                             std::to_string(height) + " pixels.");
   }
   image.width_ = width;
   image.height_ = height;

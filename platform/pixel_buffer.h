@@ -43,7 +43,9 @@ struct PixelAllocator {
   }
 };
 
-// A vector whose resize() leaves new bytes uncleared.
-using ByteBuffer = std::vector<std::uint8_t, PixelAllocator<std::uint8_t>>;
+// A vector whose constructor and resize() leave new elements uncleared.
+template <class T>
+using PixelVector = std::vector<T, PixelAllocator<T>>;
+using ByteBuffer = PixelVector<std::uint8_t>;
 
 }  // namespace plenovia

@@ -4,7 +4,7 @@
 namespace plenovia {
 
 enum PrivateMessageNumber {
-  WM_STOPPROCESS = 0x401,       // ends the long operation that runs
+  WM_STOPPROCESS = 0x401,       // ends the long operation that runs; all with kStopAllProcesses
   WM_NEEDPATTERNS = 0x402,      // hand the pattern library to the active picture window
   WM_UPDATEFRAME = 0x466,       // repaint the frame and its windows at once
   WM_COLORTABLECLOSED = 0x467,  // the colour table window goes
@@ -13,7 +13,11 @@ enum PrivateMessageNumber {
   WM_PROGRESS = 0x46E,          // a ProgressInfo; the value is its ProgressPhase
   WM_REFRESHSELF = 0x46F,       // a picture window to itself: repaint, refresh the status bar
   WM_ADDPATTERN = 0x470,        // add the active picture's corner as pattern number `value`
+  WM_USERANGEASSET = 0x471,     // from now on depth ranges are not fitted
   WM_BUTTONHINT = 0x4C8,        // the command under the mouse is `value`; below 1: none
 };
+
+// The value of WM_STOPPROCESS when the frame closes.
+inline constexpr int kStopAllProcesses = 1;
 
 }  // namespace plenovia

@@ -5,6 +5,7 @@
 #include <span>
 #include <system_error>
 
+#include "platform/ascii.h"
 #include "platform/file_io.h"
 #include "platform/leading_number.h"
 
@@ -20,14 +21,6 @@ std::string_view Trimmed(std::string_view text) {
   const auto begin = text.find_first_not_of(kSpace);
   if (begin == std::string_view::npos) return {};
   return text.substr(begin, text.find_last_not_of(kSpace) - begin + 1);
-}
-
-bool SameName(std::string_view a, std::string_view b) {
-  const auto lower = [](char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-  };
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [&](char x, char y) { return lower(x) == lower(y); });
 }
 
 std::optional<std::string_view> SectionOf(std::string_view line) {
@@ -92,8 +85,8 @@ ProfileFile::Place ProfileFile::Find(std::string_view section, std::string_view 
   bool inside = false;
   for (std::size_t i = 0; i < lines_.size(); ++i) {
     if (const auto name = SectionOf(lines_[i])) {
-      inside = SameName(*name, section);
-    } else if (const auto found = KeyOf(lines_[i]); inside && found && SameName(*found, key)) {
+      inside = SameLetters(*name, section);
+    } else if (const auto found = KeyOf(lines_[i]); inside && found && SameLetters(*found, key)) {
       place.line = i;
       return place;
     }

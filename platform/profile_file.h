@@ -14,14 +14,14 @@
 namespace plenovia {
 
 // The lines of one such file. Names of sections and keys compare without regard to case; of a key
-// that stands twice the first counts. Whatever is not set stays as it is, byte for byte, when the
+// that stands twice the first counts. What is not set stays as it is, byte for byte, when the
 // file is written.
 class ProfileFile {
  public:
   ProfileFile() = default;  // empty
 
   // The contents of a file, and what is to be put into it. Lines that are not of the form [section]
-  // or key=value are kept and passed over.
+  // or key=value are kept and otherwise ignored.
   static ProfileFile Parse(std::string_view text);
   std::string Text() const;
   // Reads a file of at most 1 MiB. A missing file gives an empty profile; a file that is there but

@@ -51,14 +51,14 @@ Region Region::RoundRectangle(const PixelRect& box, std::int64_t cornerWidth,
 Region Region::Polygon(std::span<const PixelPoint> vertices) {
   auto outline = std::make_shared<PolygonOutline>();
   outline->vertices.assign(vertices.begin(), vertices.end());
-  std::vector<RowIndex::Reach> edges;
+  std::vector<IntervalTree::Interval> edges;
   for (std::size_t i = 0; i < vertices.size(); ++i) {
     const auto [top, bottom] = std::minmax(vertices[i].y, vertices[(i + 1) % vertices.size()].y);
     if (top == bottom) continue;
     edges.push_back({static_cast<std::int32_t>(top), static_cast<std::int32_t>(bottom - 1),
                      static_cast<std::uint32_t>(i)});
   }
-  outline->edges = RowIndex(edges);
+  outline->edges = IntervalTree(edges);
   return {BoundsOf(vertices), PolygonShape(std::move(outline))};
 }
 

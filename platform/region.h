@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "platform/row_index.h"
+#include "platform/interval_tree.h"
 #include "platform/row_spans.h"
 #include "platform/shape_rows.h"
 
@@ -62,7 +62,7 @@ class Region {
   };
   struct PolygonOutline {
     std::vector<PixelPoint> vertices;
-    RowIndex edges;  // edge i leads from vertex i to the one after it
+    IntervalTree edges;  // edge i leads from vertex i to the one after it
   };
   using PolygonShape = std::shared_ptr<const PolygonOutline>;
   using Shape =

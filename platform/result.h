@@ -18,7 +18,7 @@ enum class ErrorCode {
 
 struct Error {
   ErrorCode code = ErrorCode::kInvalid;
-  std::string message;  // one sentence without a final stop, such as "the file is truncated"
+  std::string message;  // a full sentence, such as "The file is truncated."
 };
 
 // Functions that return a Result are [[nodiscard]].

@@ -24,6 +24,11 @@ cmake --preset asan
 cmake --build --preset asan
 ctest --preset asan
 
+echo "== thread sanitizer"
+cmake --preset tsan
+cmake --build --preset tsan
+ctest --preset tsan
+
 echo "== the desktop program on a virtual display"
 scripts/desktop_smoke.sh build/release/bin samples
 

@@ -26,8 +26,7 @@ keys alt+g m
 sleep 2
 picture made
 
-# Two items of the menu begin with S.
-keys alt+f s Return
+keys ctrl+s
 wait_for "the save dialog" has_window '^Save$'
 xdotool type "$work/made.gif"
 keys Return

@@ -43,7 +43,7 @@ core_packages=(
 # To build the desktop program, and to show it.
 build_packages=(
   "${core_packages[@]}"
-  qt6-base-dev qt6-svg-dev libgl-dev fonts-dejavu-core
+  qt6-base-dev qt6-svg-dev libgl-dev libxcb1-dev fonts-dejavu-core
 )
 # To make the Debian package.
 package_packages=(dpkg-dev file)

@@ -54,23 +54,25 @@ Tile GlassBeads(std::uint64_t seed) {
   });
 }
 
-// A cloud of glowing gas with a star on nearly every pixel.
+// A cloud of glowing gas with a star on nearly every pixel. As wide as the default gap: where soft
+// clouds are cut, everyone sees it.
 Tile Nebula(std::uint64_t seed) {
-  const Noise gas(kDotSize, 54, 5, seed);
-  const Noise dust(kDotSize, 34, 5, seed + 10);
-  const Noise warmth(kDotSize, 70, 3, seed + 20);
+  constexpr Torus kSize{100, 128};
+  const Noise gas(kSize, 50, 5, seed);
+  const Noise dust(kSize, 34, 5, seed + 10);
+  const Noise warmth(kSize, 50, 64, 3, seed + 20);
   const Ramp cold{0x070616, 0x14123f, 0x2b2a86, 0x3f7fc4, 0xa6e6f5};
   const Ramp warm{0x0d0518, 0x3a0f4d, 0x8b1e6b, 0xe8577e, 0xffd9a0};
   const Ramp starlight{0xffb26b, 0xfff3d6, 0xffffff, 0xcfe4ff, 0x9cc3ff};
-  return RenderTile(kDotSize, 1, [&](double x, double y) {
+  return RenderTile(kSize, 1, [&](double x, double y) {
     const double glow = Clamp01(0.36 + 0.42 * gas.At(x, y) - 0.35 * std::max(0.0, dust.At(x, y)));
-    const double mix = SmoothStep(-0.35, 0.35, warmth.At(x, y) + 0.3 * gas.At(y, x));
+    const double mix = SmoothStep(-0.35, 0.35, warmth.At(x, y) + 0.3 * gas.At(x + 50, y + 64));
     Tint colour = Mix(cold.At(glow), warm.At(glow), mix);
-    const double grain = PixelGrain(seed + 30, kDotSize, x, y);
+    const double grain = PixelGrain(seed + 30, kSize, x, y);
     colour = colour * (0.30 + 1.4 * grain);
     // Bright stars are few; the light of the brightest spills over on their neighbours.
     const auto star = [&](double dx, double dy) {
-      const double rank = PixelGrain(seed + 40, kDotSize, x + dx, y + dy);
+      const double rank = PixelGrain(seed + 40, kSize, x + dx, y + dy);
       return rank < 0.74 ? 0.0 : (rank - 0.74) / 0.26;
     };
     const double own = star(0, 0);
@@ -80,7 +82,7 @@ Tile Nebula(std::uint64_t seed) {
       if (light > 0.9) spill += 0.35 * (light - 0.9) / 0.1;
     }
     const double light = 1.1 * own * own * (0.45 + 0.45 * glow + 0.3 * own) + spill;
-    return Mix(colour, starlight.At(PixelGrain(seed + 50, kDotSize, x, y)), Clamp01(light));
+    return Mix(colour, starlight.At(PixelGrain(seed + 50, kSize, x, y)), Clamp01(light));
   });
 }
 

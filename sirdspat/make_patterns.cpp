@@ -28,7 +28,7 @@ Result<IndexedImage> WriteTile(const TileRecipe& recipe, const std::filesystem::
 int MakePatterns(const std::filesystem::path& folder) {
   int number = 0;
   int bad = 0;
-  std::printf("tile                  size     repeat  local  detail\n");
+  std::printf("tile                  size     repeat  local  detail  seam\n");
   for (const TileRecipe& recipe : TileTable()) {
     const std::string digits = std::to_string(number++);
     const std::string name = "pat" + std::string(digits.size() < 2 ? "0" : "") + digits + ".gif";
@@ -41,13 +41,13 @@ int MakePatterns(const std::filesystem::path& folder) {
     const TileQuality quality = MeasureTile(*picture);
     const bool good = IsGoodToFuse(quality);
     if (!good) ++bad;
-    std::printf("%s %-13s %d x %d  %5.2f  %5.2f  %6.1f%s\n",
+    std::printf("%s %-13s %d x %d  %5.2f  %5.2f  %6.1f  %4.2f%s\n",
                 digits.size() < 2 ? (" " + digits).c_str() : digits.c_str(), recipe.name,
                 picture->width(), picture->height(), quality.repeat, quality.localRepeat,
-                quality.leastDetail, good ? "" : "  out of bounds");
+                quality.leastDetail, quality.seam, good ? "" : "  out of bounds");
   }
-  std::printf("bounds                          %5.2f  %5.2f  %6.1f\n", kMostRepeat,
-              kMostLocalRepeat, kLeastDetail);
+  std::printf("bounds                          %5.2f  %5.2f  %6.1f  %4.2f\n", kMostRepeat,
+              kMostLocalRepeat, kLeastDetail, kMostSeam);
   return bad == 0 ? 0 : 1;
 }
 

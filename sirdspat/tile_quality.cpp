@@ -14,6 +14,7 @@ constexpr int kRowReach = 8;
 constexpr int kWindowWidth = 24;
 constexpr int kWindowHeight = 12;
 constexpr int kDetailSide = 8;
+constexpr int kDefaultGap = 100;
 
 // The colours with room to read beyond the right and lower edges without wrapping.
 class Field {
@@ -111,11 +112,68 @@ double LeastDetail(const Field& field) {
   return least;
 }
 
+// The mean colours of the squares of one size at all places of the tile.
+class Squares {
+ public:
+  Squares(const Field& field, int side) : width_(field.width), height_(field.height) {
+    for (int y = 0; y < height_; ++y) {
+      for (int x = 0; x < width_; ++x) {
+        for (int c = 0; c < 3; ++c) means_.push_back(Mean(field, x, y, side, c));
+      }
+    }
+  }
+  // The root of the mean square difference between a column of squares and another one; places
+  // beyond the tile's width count from its left edge again.
+  double Difference(int left, int right) const {
+    double squares = 0;
+    for (int y = 0; y < height_; ++y) {
+      for (int c = 0; c < 3; ++c) {
+        const double step = At(left % width_, y, c) - At(right % width_, y, c);
+        squares += step * step;
+      }
+    }
+    return std::sqrt(squares / (3 * height_));
+  }
+
+ private:
+  static double Mean(const Field& field, int x, int y, int side, int channel) {
+    double sum = 0;
+    for (int j = 0; j < side; ++j) {
+      for (int i = 0; i < side; ++i) {
+        sum += field.At((x + i) % field.width, (y + j) % field.height)[channel];
+      }
+    }
+    return sum / (side * side);
+  }
+  double At(int x, int y, int channel) const {
+    return means_[static_cast<std::size_t>(3 * (y * width_ + x) + channel)];
+  }
+
+  int width_;
+  int height_;
+  std::vector<double> means_;
+};
+
+double Seam(const Field& field) {
+  double most = 0;
+  for (const int side : {4, 8, 16}) {
+    const Squares squares(field, side);
+    double seams = 0;
+    double neighbours = 0;
+    for (int x = 0; x < field.width; ++x) {
+      neighbours += squares.Difference(x, x + side);
+      seams += squares.Difference(x + kDefaultGap - side, x);
+    }
+    if (neighbours > 0) most = std::max(most, seams / neighbours);
+  }
+  return most;
+}
+
 }  // namespace
 
 TileQuality MeasureTile(const IndexedImage& tile) {
   const Field field(tile);
-  return {Repeat(field), LocalRepeat(field), LeastDetail(field)};
+  return {Repeat(field), LocalRepeat(field), LeastDetail(field), Seam(field)};
 }
 
 }  // namespace plenovia

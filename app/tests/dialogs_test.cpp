@@ -2,8 +2,10 @@
 
 #include <QAbstractButton>
 #include <QLineEdit>
+#include <fstream>
 
 #include "app/tests/program.h"
+#include "platform/ui/text.h"
 
 namespace plenovia {
 namespace {
@@ -60,11 +62,30 @@ TEST_F(Dialogs, WizardMakesAFigure) {
   answers.Add(next);
   Run(kCmWizard);
   Settle();
-  TSirdsWnd* made = Frame().ActivePicture();
+  TSirdsWnd* made = ActivePicture();
   ASSERT_NE(made, nullptr);
   EXPECT_EQ(made->GetTitle(), QStringLiteral("sphere with meridians"));
   EXPECT_EQ(made->Picture()->width(), 260);
   EXPECT_TRUE(made->IsStereogram());
+}
+
+TEST_F(Dialogs, TheWizardLeavesTheReasonWhyASourceCannotBeRead) {
+  const QString path = PathToQString(folder_ / "depth.gif");
+  std::ofstream(ToPath(path)) << "no picture";
+  WriteSettings("[wizard]\nsource_type=1\nsource_name=" + path.toStdString() + "\n");
+  DialogAnswers answers;
+  for (int page = 0; page < 4; ++page) {
+    answers.Add([](QDialog& dialog) { Press(dialog, "button101"); });
+  }
+  QString told;
+  answers.Add([&](QDialog& dialog) {
+    told = qobject_cast<QMessageBox*>(&dialog)->text();
+    dialog.accept();
+  });
+  Run(kCmWizard);
+  Settle();
+  told += Frame().Status().Message();
+  EXPECT_TRUE(told.contains(QStringLiteral("format"))) << told.toStdString();
 }
 
 TEST_F(Dialogs, WizardOpensAPictureAndMakesItsStereogram) {
@@ -76,8 +97,8 @@ TEST_F(Dialogs, WizardOpensAPictureAndMakesItsStereogram) {
   }
   Run(kCmWizard);
   Settle();
-  ASSERT_NE(Frame().ActivePicture(), nullptr);
-  EXPECT_EQ(Frame().ActivePicture()->GetTitle(), QStringLiteral("depth.gif{sird}"));
+  ASSERT_NE(ActivePicture(), nullptr);
+  EXPECT_EQ(ActivePicture()->GetTitle(), QStringLiteral("depth.gif{sird}"));
 }
 
 }  // namespace

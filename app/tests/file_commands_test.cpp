@@ -1,10 +1,17 @@
 // Opening and saving as a user does it.
 
 #include <QAbstractScrollArea>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <fstream>
+#include <iterator>
 
 #include "app/tests/program.h"
 #include "codec/graph_io.h"
+#include "depthmap/depth_map_file.h"
+#include "depthmap/ui/map_window.h"
+#include "platform/file_io.h"
 #include "platform/ui/text.h"
 #include "testing/picture_compare.h"
 
@@ -18,18 +25,18 @@ class Files : public ProgramTest {
 };
 
 TEST_F(Files, OpenShowsThePictureAndRemembersItsFormat) {
-  const QString path = PictureFile("Some Picture.GIF", 60, 40);
+  const QString path = PictureFile("Some Picture.GIF", 300, 40);
   DialogAnswers answers;
   answers.AddFile(path);
   Run(kCmOpen);
   Settle();
-  TSirdsWnd* window = Frame().ActivePicture();
+  TSirdsWnd* window = ActivePicture();
   ASSERT_NE(window, nullptr);
   EXPECT_EQ(window->GetTitle(), QStringLiteral("some picture.gif"));
   EXPECT_TRUE(window->IsSaved());
-  EXPECT_EQ(window->ClientSize(), QSize(60, 40));
+  EXPECT_EQ(window->ClientSize(), QSize(300, 40));
   EXPECT_EQ(Frame().LastFormat(), 3);
-  EXPECT_TRUE(SamePixels(*window->Picture(), *NoisePicture(60, 40, 64)));
+  EXPECT_TRUE(SamePixels(*window->Picture(), *NoisePicture(300, 40, 64)));
 }
 
 TEST_F(Files, CancelledDialogsChangeNothing) {
@@ -39,7 +46,7 @@ TEST_F(Files, CancelledDialogsChangeNothing) {
   AddPicture(NoisePicture(9, 9, 4))->SetSaved(false);
   answers.AddFile(QString());
   Run(kCmSave);
-  EXPECT_FALSE(Frame().ActivePicture()->IsSaved());
+  EXPECT_FALSE(ActivePicture()->IsSaved());
   EXPECT_EQ(Frame().LastFormat(), 1);
 }
 
@@ -47,14 +54,43 @@ TEST_F(Files, UnreadableFilesGiveAMessageAndNoWindow) {
   std::ofstream(folder_ / "broken.png") << "no picture";
   std::ofstream(folder_ / "broken.RDS") << "no map";
   DialogAnswers answers;
-  answers.AddMessage(QStringLiteral("Error Opening the Bitmap file"), QStringLiteral("Error"));
+  answers.AddMessage(QStringLiteral("Error Opening the Bitmap file\nbroken.png: "
+                                    "The file is not a picture of a known format."),
+                     QStringLiteral("Error"));
   EXPECT_EQ(Open(Path("broken.png")), nullptr);
   EXPECT_EQ(Frame().LastFormat(), 0);
   answers.AddMessage(QStringLiteral("Invalid Depth Map file"), QStringLiteral("Error"));
-  answers.AddMessage(QStringLiteral("Error Opening the Depth Map file"), QStringLiteral("Error"));
+  answers.AddMessage(QStringLiteral("Error Opening the Depth Map file\nbroken.rds: "
+                                    "The file is not a valid depth map."),
+                     QStringLiteral("Error"));
   Open(Path("broken.RDS"));
   EXPECT_EQ(Frame().LastFormat(), 5);
   EXPECT_TRUE(Frame().Area()->subWindowList().isEmpty());
+}
+
+TEST_F(Files, DamagedFilesShowWhatCouldBeReadAndSaySo) {
+  const auto cut = [&](const QString& file, const std::string& name) {
+    auto bytes = ReadFile(ToPath(file)).value();
+    bytes.resize(bytes.size() * 2 / 3);
+    EXPECT_TRUE(WriteFile(folder_ / name, bytes));
+    Open(Path(name));
+  };
+  cut(PictureFile("whole.bmp", 300, 40), "cut.bmp");
+  ASSERT_NE(ActivePicture(), nullptr);
+  EXPECT_EQ(ActivePicture()->ClientSize(), QSize(300, 40));
+  EXPECT_EQ(Frame().Status().Note(),
+            QStringLiteral("cut.bmp: The file is truncated. What could be read is shown."));
+
+  // A depth map, known by its contents: two boxes, of which the second one is gone.
+  TDepthList list(90, 80);
+  list.AddObject(std::make_unique<TDepthObj>(nullptr, DepthRect{5, 5, 350, 30}, SquareBoxObj, 9));
+  ASSERT_TRUE(WriteDepthMap(list, folder_ / "whole.txt"));
+  cut(Path("whole.txt"), "cut.txt");
+  EXPECT_EQ(Frame().LastFormat(), 5);
+  const auto* map = qobject_cast<TMapWindow*>(Frame().GetActiveChild());
+  ASSERT_NE(map, nullptr);
+  EXPECT_EQ(map->ClientSize(), QSize(350, 30));
+  EXPECT_TRUE(Frame().Status().Note().startsWith(QStringLiteral("cut.txt: The depth map ")));
 }
 
 TEST_F(Files, SavesInTheFormatOfTheExtension) {
@@ -81,22 +117,85 @@ TEST_F(Files, FailedSaveKeepsThePictureUnsavedAndSaysWhy) {
   TSirdsWnd* window = AddPicture(NoisePicture(40, 30, 64));
   window->SetSaved(false);
   DialogAnswers answers;
+  const auto told = [](QDialog& dialog) {
+    EXPECT_TRUE(static_cast<QMessageBox&>(dialog).text().contains(QStringLiteral(".rds")));
+    dialog.accept();
+  };
   answers.AddFile(Path("map.rds"));
+  answers.Add(told);
   Run(kCmSave);
   EXPECT_FALSE(window->IsSaved());
   EXPECT_EQ(window->GetTitle(), QStringLiteral("picture"));
-  EXPECT_FALSE(Frame().Status().Message().isEmpty());
   EXPECT_FALSE(std::filesystem::exists(folder_ / "map.rds"));
 
   answers.AddMessage(QStringLiteral("Save\n picture\n before closing?"), QStringLiteral("Confirm"),
                      QMessageBox::Yes);
   answers.AddFile(Path("again.rds"));
+  answers.Add(told);
   EXPECT_FALSE(window->close()) << "what could not be saved stays open";
   answers.AddMessage(QStringLiteral("Save\n picture\n before closing?"), QStringLiteral("Confirm"),
                      QMessageBox::Yes);
   answers.AddFile(Path("good.png"));
   EXPECT_TRUE(window->close());
   EXPECT_TRUE(std::filesystem::exists(folder_ / "good.png"));
+}
+
+TEST_F(Files, SaveKnowsTheFileAndSaveAsProposesOne) {
+  TSirdsWnd* opened = Open(PictureFile("Shark.gif", 300, 200));
+  DialogAnswers answers;
+  opened->MakeGray();
+  Run(kCmSave);
+  EXPECT_EQ(Open(Path("Shark.gif"))->Picture()->palette(), opened->Picture()->palette());
+
+  Run(kCmMakeSirds);
+  Settle();
+  TSirdsWnd* made = ActivePicture();
+  ASSERT_TRUE(made->IsStereogram());
+  answers.Add([this](QDialog& dialog) {
+    auto& asked = static_cast<QFileDialog&>(dialog);
+    EXPECT_EQ(asked.selectedFiles().value(0), Path("Shark-stereogram.gif"));
+    auto* warning = asked.findChild<QLabel*>(QStringLiteral("warning"));
+    ASSERT_NE(warning, nullptr);
+    EXPECT_TRUE(warning->text().isEmpty());
+    asked.selectNameFilter(asked.nameFilters()[3]);
+    Q_EMIT asked.filterSelected(asked.nameFilters()[3]);
+    asked.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(QStringLiteral("a.jpg"));
+    EXPECT_TRUE(warning->text().contains(QStringLiteral("JPEG")));
+    asked.reject();
+  });
+  Run(kCmSave);
+  answers.AddFile(Path("result.png"));
+  Run(kCmSave);
+  EXPECT_EQ(made->File(), Path("result.png"));
+  EXPECT_TRUE(Frame().Status().Note().contains(QStringLiteral("result.png")));
+  EXPECT_TRUE(Available(kCmSave)) << "a second format costs no new run";
+  answers.AddFile(Path("no such folder/result.png"));
+  answers.Add([](QDialog& dialog) { dialog.accept(); });
+  answers.AddFile(QString());
+  Run(kCmSaveAs);
+  EXPECT_EQ(made->File(), Path("result.png"));
+}
+
+TEST_F(Files, WhatASaveReplacesIsInTheTrash) {
+  qputenv("XDG_DATA_HOME", QByteArray::fromStdString(folder_.path().string()));
+  Open(PictureFile("old.bmp", 30, 20));
+  const QString other = PictureFile("other name.bmp", 50, 40);
+  DialogAnswers answers;
+  answers.AddFile(other);
+  Run(kCmSaveAs);
+  TGraphIO codec;
+  EXPECT_EQ(codec.Read_File(folder_ / "other name.bmp")->width(), 30);
+  const auto trashed = folder_ / "Trash" / "files" / "other name.bmp";
+  ASSERT_TRUE(std::filesystem::exists(trashed));
+  EXPECT_EQ(codec.Read_File(trashed)->width(), 50);
+  std::ifstream info(folder_ / "Trash" / "info" / "other name.bmp.trashinfo");
+  const std::string text{std::istreambuf_iterator<char>(info), {}};
+  EXPECT_NE(text.find("Path=" + (folder_.path() / "other%20name.bmp").string() + "\n"),
+            std::string::npos)
+      << text;
+  Run(kCmSave);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(trashed.parent_path()), {}), 1)
+      << "a document's own file is replaced without a copy in the trash";
 }
 
 TEST_F(Files, SavingOnCloseSavesTheWindowThatCloses) {

@@ -10,7 +10,7 @@
 
 #include "app/file_drop.h"
 #include "app/tests/program.h"
-#include "depthmap/ui/mouse_wnd.h"
+#include "documents/ui/mouse_wnd.h"
 #include "platform/ui/text.h"
 
 namespace plenovia {
@@ -55,13 +55,15 @@ TEST_F(Drops, OpenEachFileAnywhereOnTheFrame) {
   std::ofstream(folder_ / "broken.rds") << "no map";
   DialogAnswers answers;
   answers.AddMessage(QStringLiteral("Invalid Depth Map file"), QStringLiteral("Error"));
-  answers.AddMessage(QStringLiteral("Error Opening the Depth Map file"), QStringLiteral("Error"));
+  answers.AddMessage(QStringLiteral("Error Opening the Depth Map file\nbroken.rds: "
+                                    "The file is not a valid depth map."),
+                     QStringLiteral("Error"));
   const QString second = PictureFile("second.gif", 30, 30);
   EXPECT_TRUE(Drop({Url(PathToQString(folder_ / "broken.rds")), Url(second)},
                    Place(*Frame().GetActiveChild())));
   Settle();
   EXPECT_EQ(Titles().size(), 2);
-  EXPECT_EQ(Frame().ActivePicture()->GetTitle(), QStringLiteral("second.gif"));
+  EXPECT_EQ(ActivePicture()->GetTitle(), QStringLiteral("second.gif"));
 }
 
 TEST_F(Drops, OfWhatIsNoFileHereAreRefused) {
@@ -88,7 +90,7 @@ TEST_F(Drops, AreRefusedWhileOpenIsGray) {
   AddPicture(NoisePicture(400, 400, 64));
   const QPoint place = Place(*Frame().Area());
   RunAnd(kCmMakeSirds, [&] { EXPECT_FALSE(Drop({file}, place)); });
-  Frame().ActivePicture()->SetSaved(true);
+  ActivePicture()->SetSaved(true);
   DialogAnswers answers;
   answers.Add([&](QDialog& dialog) {
     EXPECT_FALSE(Drop({file}, place));

@@ -33,14 +33,14 @@ class FrameTest : public ProgramTest {
 TEST_F(FrameTest, FirstStartHasTheDefaultsAndLeavingWritesThem) {
   Start();
   if (!FitsTheDisplay()) GTEST_SKIP();
-  WaitForPlace(QRect(0, 0, 640, 480));
+  WaitForPlace(QRect(80, 80, 640, 640));
   EXPECT_EQ(BarArea(), Qt::TopToolBarArea);
   EXPECT_EQ(Frame().LastFormat(), 1);
   EXPECT_EQ(Frame().Patterns()->GetCount(), 20);
   EXPECT_EQ(Frame().Settings(), TSirdsSettings());
   EXPECT_TRUE(Stop());
   const ProfileFile saved = Saved();
-  EXPECT_EQ(saved.GetInt("WinSize", "X2", -1), 640);
+  EXPECT_EQ(saved.GetInt("WinSize", "X2", -1), 720);
   EXPECT_EQ(saved.GetInt("WinSize", "MX", -1), 0);
   EXPECT_EQ(saved.GetInt("Patterns", "Count", -1), 20);
   EXPECT_EQ(saved.GetInt("DEMO", "zmax", -1), 63);
@@ -70,13 +70,49 @@ TEST_F(FrameTest, ComesBackWhereItWasWithItsSettings) {
   EXPECT_EQ(saved.GetText("other", "key", ""), "kept");
 }
 
+TEST_F(FrameTest, SettingsAreWrittenWhenTheyChange) {
+  WriteSettings("[DEMO]\nw=300\n");
+  Start();
+  Run(kCmRelocateBar);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Saved().GetInt("Tools", "CntlBar", -1) == 1; }, 3000));
+  Frame().showMaximized();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Saved().GetInt("WinSize", "MX", -1) == 1; }, 3000));
+  EXPECT_EQ(Saved().GetInt("DEMO", "w", -1), 300);
+}
+
+TEST_F(FrameTest, KeysAndMnemonicsAreUnique) {
+  Start();
+  std::set<QString> keys;
+  for (const QAction* action : Frame().Commands().findChildren<QAction*>()) {
+    for (const QKeySequence& key : action->shortcuts()) {
+      EXPECT_TRUE(keys.insert(key.toString()).second) << key.toString().toStdString();
+    }
+  }
+  for (const QAction* top : Frame().menuBar()->actions()) {
+    std::set<QChar> letters;
+    for (const QAction* item : top->menu()->actions()) {
+      const qsizetype mark = item->text().indexOf(u'&');
+      if (mark < 0) continue;
+      EXPECT_TRUE(letters.insert(item->text()[mark + 1].toUpper()).second)
+          << item->text().toStdString();
+    }
+  }
+}
+
 TEST_F(FrameTest, NonsenseInTheSettingsStillGivesAFrameOnTheScreen) {
   WriteSettings(
       "[WinSize]\nX1=90000\nY1=-2147483648\nX2=2147483647\nY2=2147483647\n"
       "[Tools]\nCntlBar=7\n[GRAPHICS]\nFormat=77\n[DEMO]\nscan\nw=-4\n");
   Start();
   EXPECT_EQ(BarArea(), Qt::TopToolBarArea);
-  EXPECT_TRUE(Frame().screen()->virtualGeometry().intersects(Frame().geometry()));
+  EXPECT_TRUE(Frame().screen()->virtualGeometry().contains(Frame().geometry().topLeft()));
+}
+
+TEST_F(FrameTest, NothingOfTheFrameIsOutsideTheScreen) {
+  WriteSettings("[WinSize]\nX1=300\nY1=400\nX2=1000\nY2=1000\n");
+  Start();
+  if (!FitsTheDisplay()) GTEST_SKIP();
+  WaitForPlace(QRect(100, 200, 700, 600));
 }
 
 TEST_F(FrameTest, RelocatingGoesRoundTopLeftRight) {
@@ -117,12 +153,10 @@ TEST_F(FrameTest, AvailabilityFollowsTheActiveWindow) {
   Run(kCmGrayImage);
 
   TSirdsWnd* picture = AddPicture(NoisePicture(50, 40, 16));
-  std::set<int> ofPicture{kCmNew,        kCmOpen,    kCmExit,      kCmGrayImage,
-                          kCmZoomIn,     kCmZoomOut, kCmMakeSirds, kCmTile,
-                          kCmFullScreen, kCmPrint,   kCmCopy,      kCmColorTable};
+  std::set<int> ofPicture{kCmSave,       kCmSaveAs, kCmNew,     kCmOpen,      kCmExit,
+                          kCmGrayImage,  kCmZoomIn, kCmZoomOut, kCmMakeSirds, kCmTile,
+                          kCmFullScreen, kCmPrint,  kCmCopy,    kCmColorTable};
   EXPECT_EQ(available(looked), ofPicture);
-  picture->SetSaved(false);
-  EXPECT_TRUE(Available(kCmSave));
   Run(kCmZoomIn);
   Run(kCmZoomIn);
   EXPECT_EQ(picture->Zoom(), 4.0);
@@ -131,9 +165,9 @@ TEST_F(FrameTest, AvailabilityFollowsTheActiveWindow) {
   EXPECT_EQ(picture->Zoom(), 0.25);
   EXPECT_FALSE(Available(kCmZoomOut));
 
-  CmFileNew(Frame());
-  EXPECT_EQ(available(looked), (std::set<int>{kCmNew, kCmOpen, kCmSave, kCmExit, kCmGrayImage,
-                                              kCmMakeSirds, kCmTile, 1251}));
+  CmFileNew(Frame().Context());
+  EXPECT_EQ(available(looked), (std::set<int>{kCmNew, kCmOpen, kCmSave, kCmSaveAs, kCmExit,
+                                              kCmGrayImage, kCmMakeSirds, kCmTile, 1251}));
 }
 
 TEST_F(FrameTest, StatusBarTellsAboutTheActivePicture) {
@@ -157,7 +191,6 @@ TEST_F(FrameTest, LeavingAsksForEachUnsavedWindowAndCancelKeepsEverything) {
     DialogAnswers answers;
     answers.AddMessage(question, QStringLiteral("Confirm"), QMessageBox::Cancel);
     EXPECT_FALSE(Stop());
-    EXPECT_FALSE(std::filesystem::exists(SettingsFile()));
   }
   DialogAnswers answers;
   answers.AddMessage(question, QStringLiteral("Confirm"), QMessageBox::No);
@@ -180,7 +213,7 @@ TEST_F(FrameTest, LeavingPassesOverAWindowThatClosesMeanwhile) {
 
 TEST_F(FrameTest, CloseAllStopsAtTheFirstCancel) {
   Start();
-  for (int i = 0; i < 3; ++i) CmFileNew(Frame());
+  for (int i = 0; i < 3; ++i) CmFileNew(Frame().Context());
   const QString question = QStringLiteral("Save\n untitled\n before closing?");
   DialogAnswers answers;
   answers.AddMessage(question, QStringLiteral("Confirm"), QMessageBox::No);
@@ -237,8 +270,8 @@ TEST_F(FrameTest, OneColourTableFollowsTheCommandAndCanBeCopied) {
   EXPECT_TRUE(Available(kCmPaste));
   Run(kCmPaste);
   Settle();
-  EXPECT_EQ(Frame().ActivePicture()->ClientSize(), QSize(384, 24));
-  EXPECT_FALSE(Frame().ActivePicture()->IsSaved());
+  EXPECT_EQ(ActivePicture()->ClientSize(), QSize(384, 24));
+  EXPECT_FALSE(ActivePicture()->IsSaved());
 }
 
 TEST_F(FrameTest, CopyTakesTheSelectionAtAnyZoom) {
@@ -254,7 +287,7 @@ TEST_F(FrameTest, CopyTakesTheSelectionAtAnyZoom) {
   Run(kCmCopy);
   Run(kCmPaste);
   Settle();
-  const auto& pasted = *Frame().ActivePicture()->Picture();
+  const auto& pasted = *ActivePicture()->Picture();
   ASSERT_EQ(pasted.width(), 30);
   ASSERT_EQ(pasted.height(), 10);
   EXPECT_EQ(pasted.Row(3)[5], picture->Row(23)[15]);

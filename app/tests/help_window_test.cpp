@@ -59,6 +59,13 @@ TEST(HelpPages, EveryLinkAndPictureLeadsSomewhere) {
   EXPECT_EQ(seen.size(), static_cast<qsizetype>(pages.size())) << "a page that no page leads to";
 }
 
+TEST(HelpPages, KeysComeFromTheTableOfCommands) {
+  const auto pages = LoadHelpPages();
+  const HelpPage* keys = FindTopic(pages, QStringLiteral("Keys"));
+  ASSERT_NE(keys, nullptr);
+  EXPECT_TRUE(keys->text.contains(QStringLiteral("Ctrl+Shift+S Save As")));
+}
+
 TEST(HelpPages, EveryCommandAndFigureIsExplained) {
   QString text;
   for (const HelpPage& page : LoadHelpPages()) text += page.text;

@@ -6,7 +6,7 @@
 
 #include "app/file_commands.h"
 #include "codec/graph_io.h"
-#include "codec/graphic_format.h"
+#include "codec/picture_format.h"
 #include "platform/random.h"
 #include "platform/ui/text.h"
 
@@ -69,9 +69,9 @@ QString ProgramTest::PictureFile(const std::string& name, int width, int height)
 }
 
 TSirdsWnd* ProgramTest::Open(const QString& path) {
-  OpenByName(Frame(), path);
+  OpenByName(Frame().Context(), path);
   Settle();
-  return Frame().ActivePicture();
+  return ActivePicture();
 }
 
 TSirdsWnd* ProgramTest::AddPicture(const std::shared_ptr<const IndexedImage>& picture) {

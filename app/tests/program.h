@@ -35,6 +35,7 @@ class ProgramTest : public testing::Test {
   void WriteSettings(const std::string& text) const;
 
   TPlenoviaWnd& Frame() { return app_->Frame(); }
+  TSirdsWnd* ActivePicture() { return qobject_cast<TSirdsWnd*>(Frame().GetActiveChild()); }
   void Run(int command) { Frame().Commands().Run(command); }
   bool Available(int command) { return Frame().Commands().IsAvailable(command); }
   // Gives the command of a run, and does `during` when the run handles events for the first time.

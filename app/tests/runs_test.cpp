@@ -10,9 +10,11 @@
 #include "app/file_commands.h"
 #include "app/sirds_commands.h"
 #include "app/tests/program.h"
+#include "codec/graph_io.h"
 #include "engine/generation.h"
 #include "figures/sirdmath.h"
 #include "platform/ui/private_message.h"
+#include "platform/ui/text.h"
 #include "testing/picture_compare.h"
 
 namespace plenovia {
@@ -74,7 +76,7 @@ TEST_F(Runs, MakesWhatTheEngineMakesAndTellsTheFrame) {
                                           "2  0"};
   EXPECT_EQ(log.lines, expected);
 
-  TSirdsWnd* made = Frame().ActivePicture();
+  TSirdsWnd* made = ActivePicture();
   ASSERT_NE(made, nullptr);
   EXPECT_EQ(made->GetTitle(), QStringLiteral("picture{sird}"));
   EXPECT_TRUE(made->IsStereogram());
@@ -93,7 +95,7 @@ TEST_F(Runs, EachFigureOfTheMenuIsThatOfTheEngineWithACaption) {
   for (int command = kCmFirstFigure; command <= kCmLastFigure; ++command) {
     Run(command);
     Settle();
-    const auto made = Frame().ActivePicture()->Picture();
+    const auto made = ActivePicture()->Picture();
     FigureRun run;
     run.level = &_GetFigureLevel;
     run.code = kCmFirstFigure - 1 - command;
@@ -143,31 +145,98 @@ TEST_F(Runs, StoppedRunsOfMapsAndFiguresCloseTheirWindows) {
   RunAnd(kCmFirstFigure, [&] { Run(kCmStopProcess); });
   EXPECT_TRUE(Pictures().empty());
 
-  CmFileNew(Frame());
+  CmFileNew(Frame().Context());
   RunAnd(kCmMakeSirds, [&] { Run(kCmStopProcess); });
   EXPECT_TRUE(Pictures().empty());
   EXPECT_EQ(Frame().GetActiveChild()->GetWindowKind(), kDepthMapWindow);
   EXPECT_FALSE(Frame().IsBusy());
 }
 
-TEST_F(Runs, TheSourceMayBeClosed) {
+TEST_F(Runs, EndWithTheWindowOfTheirSourcePictureButGoOnWithoutAnyOther) {
   TSirdsWnd* source = AddPicture(NoisePicture(1500, 1500, 64));
   RunAnd(kCmMakeSirds, [&] { source->close(); });
   EXPECT_TRUE(Pictures().empty());
 
-  CmFileNew(Frame());
+  const auto closePictures = [&] {
+    for (TSirdsWnd* picture : Pictures()) picture->CloseUnasked();
+  };
+  CmFileNew(Frame().Context());
   QMdiSubWindow* map = Frame().GetActiveChild();
   RunAnd(kCmMakeSirds, [&] { delete map; });
   EXPECT_EQ(Pictures().size(), 1U) << "who makes a stereogram of a map keeps the map";
-  for (TSirdsWnd* picture : Pictures()) picture->SetSaved(true);
+  closePictures();
+  for (const int command : {int{kCmMakeSirds}, int{kCmFirstFigure}}) {
+    TSirdsWnd* other = AddPicture(NoisePicture(50, 50, 64));
+    source = AddPicture(NoisePicture(1200, 1200, 64));
+    RunAnd(command, [&] { other->close(); });
+    EXPECT_EQ(Pictures().size(), 2U) << command;
+    closePictures();
+  }
+}
+
+TEST_F(Runs, CancelInTheCloseQuestionKeepsThePictureAndTheRun) {
+  Frame().Settings().useBmp = 1;
+  for (const bool closesFrame : {false, true}) {
+    const auto old = NoisePicture(1200, 1200, 64);
+    TSirdsWnd* window = AddPicture(old);
+    window->SetSaved(false);
+    DialogAnswers answers;
+    answers.AddMessage(QStringLiteral("Save\n picture\n before closing?"),
+                       QStringLiteral("Confirm"), QMessageBox::Cancel);
+    RunAnd(kCmFirstFigure, [&] {
+      EXPECT_FALSE(closesFrame ? Frame().close() : window->close());
+      EXPECT_EQ(window->Picture(), old);
+    });
+    ASSERT_EQ(Pictures(), std::vector{window});
+    EXPECT_NE(window->Picture(), old) << "the result has appeared";
+    EXPECT_TRUE(Frame().isVisible());
+    window->CloseUnasked();
+  }
+}
+
+TEST_F(Runs, TheFrameAsksOnceForThePictureThatIsDrawnOver) {
+  Frame().Settings().useBmp = 1;
+  const auto old = NoisePicture(1200, 1200, 64);
+  AddPicture(old)->SetSaved(false);
+  const QString file = PathToQString(folder_.path() / "old.png");
+  DialogAnswers answers;
+  answers.AddMessage(QStringLiteral("Save\n picture\n before closing?"), QStringLiteral("Confirm"),
+                     QMessageBox::Yes);
+  answers.AddFile(file);
+  AddPicture(NoisePicture(50, 50, 64))->SetSaved(false);
+  answers.AddMessage(QStringLiteral("Save\n picture\n before closing?"), QStringLiteral("Confirm"),
+                     QMessageBox::No);
+  Frame().Area()->activatePreviousSubWindow();
+  RunAnd(kCmFirstFigure, [&] { EXPECT_FALSE(Frame().close()); });
+  EXPECT_FALSE(Frame().isVisible());
+  EXPECT_TRUE(SamePixels(*TGraphIO().Read_File(ToPath(file)), *old));
+}
+
+TEST_F(Runs, ALaterFigureInTheSameWindowEndsTheEarlierOne) {
+  Frame().Settings().useBmp = 1;
+  const auto old = NoisePicture(1200, 1200, 64);
+  AddPicture(old);
+  Run(kCmFirstFigure + 3);
+  const auto expected = ActivePicture()->Picture();
+  Frame().GetActiveChild()->CloseUnasked();
+  TSirdsWnd* window = AddPicture(old);
+  RunAnd(kCmFirstFigure, [&] { Run(kCmFirstFigure + 3); });
+  ASSERT_EQ(Pictures(), std::vector{window});
+  EXPECT_TRUE(SamePixels(*window->Picture(), *expected));
+
+  window->SetImage(old);
+  window->SetSaved(false);
+  RunAnd(kCmFirstFigure, [&] { RunAnd(kCmFirstFigure + 3, [&] { Run(kCmStopProcess); }); });
+  EXPECT_TRUE(Pictures().empty()) << "stopping drops the picture";
+  EXPECT_FALSE(Frame().IsBusy());
 }
 
 TEST_F(Runs, TheResultMayBeClosed) {
   Frame().Settings().w = 1200;
   Frame().Settings().h = 1200;
-  RunAnd(kCmFirstFigure, [&] { Frame().ActivePicture()->close(); });
+  RunAnd(kCmFirstFigure, [&] { ActivePicture()->close(); });
   EXPECT_TRUE(Pictures().empty());
-  RunAnd(kCmFirstFigure, [&] { delete Frame().ActivePicture(); });
+  RunAnd(kCmFirstFigure, [&] { delete ActivePicture(); });
   EXPECT_TRUE(Pictures().empty());
   RunAnd(kCmFirstFigure, [&] { Run(kCmCloseAll); });
   EXPECT_TRUE(Pictures().empty());

@@ -56,9 +56,9 @@ struct Command {
     rule.settings.zmin = number("--zmin", rule.settings.zmin);
     rule.settings.zmax = number("--zmax", rule.settings.zmax);
     if (const auto scan = options.find("--scan"); scan != options.end()) {
-      rule.settings.scanMethod = scan->second == "feucht"    ? kFeucht
-                                 : scan->second == "mcmahon" ? kMcMahon
-                                                             : kLeftToRight;
+      const auto named = [&](const ScanMethod* method) { return method->name == scan->second; };
+      const auto place = std::ranges::find_if(ScanMethods(), named) - ScanMethods().begin();
+      rule.settings.scanMethod = static_cast<std::int32_t>(place) + 1;
     }
     const bool shapes = IsFigure() || source.ends_with(".rds");
     rule.kind = shapes ? SourceKind::kShape : SourceKind::kImage;
@@ -94,10 +94,11 @@ class GalleryPicture : public testing::TestWithParam<Command> {
   // The levels of the source in the place where they are shifted.
   LevelPicture Levels(const StereogramRule& rule) const {
     const IndexedImage depth = Written("depth", "--depth-by --width --height --dx --dy --da ");
-    const auto [scan, gap] = std::pair(rule.settings.scanMethod, rule.settings.gapValue);
-    const int start = StartColumn(scan, gap);
-    const int added = WidensByGap(scan) && !GetParam().IsFigure() ? gap : 0;
-    return {depth.width() + added, depth.height(), [&](int x, int y) -> std::int32_t {
+    const ScanMethod& method = ScanMethodOf(rule.settings.scanMethod);
+    const std::int32_t gap = rule.settings.gapValue;
+    const int start = method.StartColumn(gap);
+    const int width = GetParam().IsFigure() ? depth.width() : method.RunWidth(depth.width(), gap);
+    return {width, depth.height(), [&](int x, int y) -> std::int32_t {
               const int from = x - start;
               if (from < 0 || from >= depth.width()) return 0;
               return depth.Row(y)[static_cast<std::size_t>(from)];
@@ -115,7 +116,8 @@ TEST_P(GalleryPicture, IsWhatItsCommandMakesAndHasItsDepth) {
 
   const StereogramRule rule = GetParam().Rule();
   SilentMonitor monitor;
-  const auto revealed = Reveal(shown, {.anchor = AnchorOf(rule.settings.scanMethod)}, monitor);
+  const RevealAnchor anchor = ScanMethodOf(rule.settings.scanMethod).anchor;
+  const auto revealed = Reveal(shown, {.anchor = anchor}, monitor);
   ASSERT_TRUE(revealed);
   const RevealScore score = ScoreReveal(*revealed, Levels(rule), rule);
   EXPECT_GT(score.counted, shown.width() * shown.height() / 5);

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <functional>
 #include <ostream>
+#include <sstream>
 
 #include "cli/tests/fixture.h"
 #include "depthmap/depth_map_file.h"
@@ -101,6 +102,19 @@ TEST_F(SirdsTest, WritesEachFormatByItsExtension) {
     if (format == "JPEG") continue;
     EXPECT_TRUE(SamePixels(*expected, Read(Path(name)))) << name;
   }
+}
+
+TEST_F(SirdsTest, FitsTheDepthRangeAndPrintsItAsOptions) {
+  const Finished fitted =
+      Sirds({"make", scene_, "-o", out_, "--pattern", tile_, "--zmax", "5", "--fit"});
+  ASSERT_EQ(fitted.status, 0) << fitted.err;
+  std::vector<std::string> arguments = {"make", scene_, "-o", Path("set.png"), "--pattern", tile_};
+  std::istringstream printed(fitted.out);
+  for (std::string word; printed >> word;) arguments.push_back(word);
+  ASSERT_EQ(arguments.size(), 10u);
+  EXPECT_GT(std::stoi(arguments.back()), 5);
+  ASSERT_EQ(Sirds(arguments).status, 0);
+  EXPECT_TRUE(SamePixels(Read(out_), Read(Path("set.png"))));
 }
 
 TEST_F(SirdsTest, ReplacesItsOwnSource) {

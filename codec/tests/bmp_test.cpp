@@ -58,7 +58,7 @@ struct File {
     file.insert(file.end(), pixels.begin(), pixels.end());
     return file;
   }
-  Result<IndexedImage> Read() const { return DecodeBmp(Bytes()); }
+  Result<DecodedPicture> Read() const { return DecodeBmp(Bytes()); }
 };
 
 // Whether the files show what their names say.
@@ -197,7 +197,7 @@ TEST(BmpOffset, IsGuessedWhenItLiesInTheHeaders) {
   file.offsetError = 5;  // a gap in front of the pixels
   EXPECT_EQ(Indexes(file.Read()), "123/321");
   file.offsetError = 1000000;
-  EXPECT_EQ(Indexes(file.Read()), "the file is truncated");
+  EXPECT_EQ(Indexes(file.Read()), "The file is truncated.");
 }
 
 TEST(BmpRefusal, NamesTheReason) {

@@ -118,17 +118,19 @@ TEST(KeptColours, GivesThePictureThatTwoReadingsGive) {
       std::copy_n(rowAt(y).begin(), kWidth, row.begin());
       return true;
     });
-    const auto kept = KeptColours::Create(kWidth, kHeight);
-    ASSERT_TRUE(kept);
-    for (int y = 0; y < kHeight; ++y) {
-      std::vector<std::uint8_t> bytes;
-      for (const Rgb c : rowAt(y)) bytes.insert(bytes.end(), {c.red, c.green, c.blue});
-      kept->Add(bytes);
+    for (const int threads : {1, 2}) {
+      const auto kept = KeptColours::Create(kWidth, kHeight, threads);
+      ASSERT_TRUE(kept);
+      for (int y = 0; y < kHeight; ++y) {
+        std::vector<std::uint8_t> bytes;
+        for (const Rgb c : rowAt(y)) bytes.insert(bytes.end(), {c.red, c.green, c.blue});
+        kept->Add(bytes);
+      }
+      EXPECT_EQ(kept->Reduce().value(), expected.value());
     }
-    EXPECT_EQ(kept->Reduce().value(), expected.value());
   }
-  EXPECT_FALSE(KeptColours::Create(10, 10));
-  EXPECT_FALSE(KeptColours::Create(10000, 10000));
+  EXPECT_FALSE(KeptColours::Create(10, 10, 2));
+  EXPECT_FALSE(KeptColours::Create(10000, 10000, 2));
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <set>
 #include <string>
 #include <vector>
@@ -75,7 +77,39 @@ TEST(GraphIO, BitmapsHaveTheFewestBitsForTheirColoursAndRowsOfWholeWords) {
   }
 }
 
-TEST(GraphicFormat, TheFirstRuleThatHoldsDecides) {
+TEST(PictureFormat, TheTableGivesTheListsOfTheDialogs) {
+  EXPECT_EQ(OpenFileTypes(),
+            "Bitmap Files (*.BMP)|*.bmp|PCX Files (*.PCX)|*.pcx|GIF Files (*.GIF)|*.gif|"
+            "Depth Map File (*.RDS)|*.rds|PNG Files (*.PNG)|*.png|"
+            "All Pictures and Depth Maps|*.bmp *.pcx *.gif *.jpg *.jpeg *.rds *.png|");
+  EXPECT_EQ(SaveFileTypes(),
+            "Bitmap Files (*.BMP)|*.bmp|PCX Files (*.PCX)|*.pcx|GIF Files (*.GIF)|*.gif|"
+            "JPEG Files (*.JPG)|*.jpg|Depth Map File (*.RDS)|*.rds|PNG Files (*.PNG)|*.png|");
+  EXPECT_EQ(WizardFileTypes(),
+            "Bitmap Files (*.BMP)|*.bmp|PCX Files (*.PCX)|*.pcx|GIF Files (*.GIF)|*.gif|"
+            "All Pictures|*.bmp *.pcx *.gif *.jpg *.jpeg *.png|");
+}
+
+TEST(PictureFormat, WhatThePackageAndTheManualsSayIsInTheTable) {
+  const auto text = [](const char* file) {
+    const ByteBuffer bytes = ReadFile(std::filesystem::path(PLENOVIA_SOURCE_DIR) / file).value();
+    std::string words(bytes.begin(), bytes.end());
+    std::ranges::replace(words, '\n', ' ');
+    return words;
+  };
+  std::string types = "MimeType=application/x-plenovia-depth-map;";
+  for (int number = 1; const PictureFormat* format = FindFormat(GraphicFormat(number)); ++number) {
+    if (format->decode == nullptr) continue;
+    types.append(format->mimeType).append(";");
+    EXPECT_NE(text("help/files.html").find("<td>" + std::string(format->name) + "</td>"),
+              std::string::npos);
+  }
+  EXPECT_NE(text("packaging/plenovia.desktop").find(types + " "), std::string::npos) << types;
+  EXPECT_NE(text("cli/sirds.1").find(ReadableNames()), std::string::npos);
+  EXPECT_NE(text("cli/sirds.1").find(WritableExtensions()), std::string::npos);
+}
+
+TEST(PictureFormat, TheFirstRuleThatHoldsDecides) {
   const std::pair<const char*, GraphicFormat> cases[] = {
       {"PICTURE.GIF.BMP", GraphicFormat::kGif},
       {"a.pcx", GraphicFormat::kPcx},

@@ -106,6 +106,8 @@ TEST(Jpeg, EveryKindIsRead) {
       {JCS_CMYK, JCS_CMYK},
       {JCS_CMYK, JCS_YCCK},
       {JCS_CMYK, JCS_YCCK, true},
+      {JCS_RGB, JCS_YCbCr, false, false, true},
+      {JCS_RGB, JCS_YCbCr, true, false, true},
   };
   for (const Kind& kind : kinds) {
     SCOPED_TRACE(testing::Message() << "pixels " << kind.pixels << " file " << kind.file
@@ -130,12 +132,6 @@ TEST(Jpeg, InksWithoutAdobesMarkAreWhatIsPutOn) {
   *at = 'a';
   // All the black ink that there is.
   EXPECT_EQ(Colours(DecodeJpeg(bytes)).substr(0, 13), "000000 000000");
-}
-
-TEST(Jpeg, ArithmeticCodingIsNotSupported) {
-  Kind kind;
-  kind.arithmetic = true;
-  EXPECT_EQ(DecodeJpeg(MakeJpeg(kind)).error().code, ErrorCode::kUnsupported);
 }
 
 TEST(Jpeg, WrittenPicturesKeepTheirColoursClosely) {
@@ -177,22 +173,63 @@ TEST(Jpeg, LargePicturesAreReducedAsTheirRowsAre) {
     return true;
   });
   EXPECT_EQ(DecodeJpeg(file).value(), expected.value());
-  EXPECT_FALSE(DecodeJpeg(std::span(file).first(file.size() / 2)));
+  const auto cut = DecodeJpeg(std::span(file).first(file.size() / 2));
+  ASSERT_TRUE(cut);
+  EXPECT_EQ(cut->damage, kTruncated);
 }
 
-TEST(Jpeg, TruncationIsNoticedAtEveryByte) {
+TEST(Jpeg, TruncationIsNoticedAtEveryByteAndShowsWhatIsThere) {
+  const auto decode = [](std::span<const std::uint8_t> bytes) { return DecodeJpeg(bytes); };
   for (const bool progressive : {false, true}) {
     const ByteBuffer file = MakeJpeg({JCS_RGB, JCS_YCbCr, progressive});
-    for (std::size_t size = 0; size < file.size(); ++size) {
-      EXPECT_FALSE(DecodeJpeg(std::span(file).first(size))) << "cut off after " << size << " bytes";
-    }
+    ExpectTruncationIsNoticed(decode, file);
+    const auto cut = DecodeJpeg(std::span(file).first(file.size() - 40));
+    ASSERT_TRUE(cut);
+    EXPECT_LT(Error(*cut, false), 20) << "most of it is there";
     // Cut off and closed again with the mark of the end.
-    for (std::size_t size = 0; size < file.size() - 16; size += 5) {
+    for (std::size_t size = 0; size < file.size() - 16 && !progressive; size += 5) {
       ByteBuffer closed(file.begin(), file.begin() + static_cast<std::ptrdiff_t>(size));
       closed.insert(closed.end(), {0xff, 0xd9});
-      EXPECT_FALSE(DecodeJpeg(closed) && !progressive) << "closed after " << size << " bytes";
+      const auto picture = DecodeJpeg(closed);
+      EXPECT_TRUE(!picture || !picture->damage.empty()) << "closed after " << size << " bytes";
     }
-    ExpectCorruptionIsHarmless(DecodeJpeg, MakeJpeg({JCS_GRAYSCALE, JCS_GRAYSCALE, progressive}));
+    ExpectCorruptionIsHarmless(decode, MakeJpeg({JCS_GRAYSCALE, JCS_GRAYSCALE, progressive}));
+    ExpectCorruptionIsHarmless(decode, MakeJpeg({JCS_RGB, JCS_YCbCr, progressive, false, true}));
+  }
+}
+
+// What cameras and telephones write around their pictures, and disks do to them.
+TEST(Jpeg, DamageBesideThePixelsIsForgiven) {
+  for (const bool progressive : {false, true}) {
+    const ByteBuffer file = MakeJpeg({JCS_RGB, JCS_YCbCr, progressive});
+    const IndexedImage whole = DecodeJpeg(file).value();
+    const auto with = [&](std::size_t at, const std::vector<std::uint8_t>& bytes) {
+      ByteBuffer changed = file;
+      changed.insert(changed.begin() + static_cast<std::ptrdiff_t>(at), bytes.begin(), bytes.end());
+      return DecodeJpeg(changed);
+    };
+    // EXIF data that is longer than its length says, and such of no length.
+    for (const std::uint8_t length : std::initializer_list<std::uint8_t>{0, 2, 8}) {
+      const auto exif = with(2, {0xff, 0xe1, 0, length, 'E', 'x', 'i', 'f', 0, 0, 'M', 'M', 0, 42});
+      ASSERT_TRUE(exif) << exif.error().message;
+      EXPECT_EQ(*exif, whole);
+    }
+    // A second picture, and plain rubbish, behind the first.
+    for (const std::vector<std::uint8_t>& more :
+         {std::vector<std::uint8_t>(file.begin(), file.end()), {0xff, 0xc4, 0, 3, 0, 1, 2, 3}}) {
+      const auto followed = with(file.size(), more);
+      ASSERT_TRUE(followed) << followed.error().message;
+      EXPECT_EQ(*followed, whole);
+      EXPECT_EQ(followed->damage, "");
+      // Even without the mark of the end between them.
+      const auto merged = with(file.size() - 2, {0xff, 0xc4, 0, 3, 9});
+      ASSERT_TRUE(merged) << merged.error().message;
+      EXPECT_EQ(*merged, whole);
+    }
+    // A few pixels gone.
+    const auto hole = with(file.size() - 60, {0xff, 0xd5, 1, 2, 3});
+    ASSERT_TRUE(hole) << hole.error().message;
+    EXPECT_NE(hole->damage, "");
   }
 }
 
@@ -203,7 +240,7 @@ TEST(Jpeg, ASizeThatTheBytesCannotFillIsRefused) {
   ASSERT_NE(at, bytes.end());
   at[5] = 0x40;  // 16384 pixels high and wide
   at[7] = 0x40;
-  EXPECT_EQ(DecodeJpeg(bytes).error().message, "the file is too short for its size in pixels");
+  EXPECT_EQ(DecodeJpeg(bytes).error().message, "The file is too short for its size in pixels.");
   at[7] = 0xff;
   EXPECT_EQ(DecodeJpeg(bytes).error().code, ErrorCode::kTooLarge);
 }

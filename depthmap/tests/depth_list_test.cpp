@@ -109,23 +109,27 @@ TEST(DepthList, ObjectsMoveUpAndDownAboveTheBackground) {
   EXPECT_EQ(painter.Take(), (std::vector<std::int64_t>{10}));
 }
 
-TEST(DepthList, LevelsAndMovesLeaveTheSavedStateAlone) {
+TEST(DepthList, LevelsAndMovesAreChanges) {
   TDepthList list(100, 100);
   const TDepthObj* box = AddBox(list, 7);
   list.MarkSaved();
   list.GetObjectLevel(box);
+  list.ApplyObjectLevel(box);
+  EXPECT_TRUE(list.IsSaved());
   list.ApplyObjectLevel(list.Background());
+  EXPECT_FALSE(list.IsSaved());
   EXPECT_EQ(list.GetLevelAt(99, 99), 7);
   EXPECT_EQ(list.Selected(), list.Background());
   list.GetObjectLevel(nullptr);
   list.ApplyObjectLevel(nullptr);
   EXPECT_EQ(list.CurrentLevel(), 7);
 
+  list.MarkSaved();
   list.MoveSelectedTo({50, 50, 150, 150});
   EXPECT_EQ(list.GetLevelAt(49, 49), 0);
   EXPECT_EQ(list.GetLevelAt(149, 149), 7);
   EXPECT_EQ(list.GetWidth(), 100);
-  EXPECT_TRUE(list.IsSaved());
+  EXPECT_FALSE(list.IsSaved());
 
   const TDepthObj stranger(nullptr, {}, SquareBoxObj, 9);
   list.Select(&stranger);

@@ -82,6 +82,8 @@ TEST(DepthMapFile, TheHeaderDecidesWhatIsADepthMap) {
   EXPECT_EQ(contents.list.GetHeight(), 50);
 
   std::vector<ByteBuffer> refused{{}, File({}), File({0}), File({-1, 3, 0, 0, 0, 9, 9})};
+  refused.push_back(File({2, 3, 5, 0}));  // cut off before anything is covered
+  refused.push_back(File({2, 3, 5, -9, -9, -4, 0}));
   for (const std::size_t i : {std::size_t{0}, std::size_t{7}, std::size_t{8}}) {
     refused.push_back(File({1, 3, 0, 0, 0, 9, 9}));
     refused.back()[i] = 'S';
@@ -90,7 +92,7 @@ TEST(DepthMapFile, TheHeaderDecidesWhatIsADepthMap) {
     const Result<DepthMapContents> result = DecodeDepthMap(bytes);
     ASSERT_FALSE(result.has_value());
     EXPECT_EQ(result.error().code, ErrorCode::kCorrupt);
-    EXPECT_EQ(result.error().message, "Invalid Depth Map file");
+    EXPECT_EQ(result.error().message, "The file is not a valid depth map.");
   }
 }
 
@@ -104,10 +106,15 @@ TEST(DepthMapFile, DamagedFilesKeepWhatWasRead) {
   };
   constexpr std::int32_t kMany = std::numeric_limits<std::int32_t>::max();
   for (const Case& c : std::vector<Case>{
-           {{1, 3, 5, 0, 0, 9, 9}, 1, true, {{}}, {0}},
-           {{2, 3, 5, 0, 0, 9, 9, 3, 0, 0, 0, 8, 8}, 16, true, {{0, 0, 9, 9}, {}}, {0, 0}},
-           {{kMany, 3, 5, 0, 0, 9, 9}, 0, true, {{0, 0, 9, 9}, {}}, {0, 0}},
-           {{1, 5, 5, kMany, 1, 2, 3, 4, 5}, 0, true, {{1, 2, 1, 2}}, {2}},
+           {{2, 3, 5, 0, 0, 9, 9, 3, 0, 0, 0, 8, 8}, 16, true, {{0, 0, 9, 9}}, {0}},
+           {{kMany, 3, 5, 0, 0, 9, 9}, 0, true, {{0, 0, 9, 9}}, {0}},
+           {{3, 0, 5, 7, 2, 1, 8}, 0, true, {{7, 2, 1, 8}, {0, 0, 7, 8}}, {0, 0}},
+           {{3, 3, 5, 0, 0, 9, 9, 3, 5, 1, 1, 4, kMany},
+            0,
+            true,
+            {{0, 0, 9, 9}, {1, 1, 4, kMany}, {0, 0, 9, 32767}},
+            {0, 0, 0}},
+           {{1, 5, 5, kMany, 1, 2, 3, 4, 5}, 0, true, {{1, 2, 1, 2}, {0, 0, 3, 4}}, {2, 0}},
            {{2, 5, 5, -1, 3, 5, 0, 0, 9, 9}, 0, true, {{}, {0, 0, 9, 9}}, {0, 0}},
            {{2, 5, 5, 0, 3, 5, 0, 0, 9, 9}, 0, false, {{}, {0, 0, 9, 9}}, {0, 0}},
        }) {

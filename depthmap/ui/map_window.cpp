@@ -9,6 +9,7 @@
 
 #include "depthmap/depth_map_file.h"
 #include "depthmap/ui/level_dialog.h"
+#include "platform/file_io.h"
 #include "platform/ui/message_box.h"
 #include "platform/ui/private_message.h"
 #include "platform/ui/resource_pictures.h"
@@ -57,8 +58,7 @@ void TMapWindow::SetList(std::shared_ptr<TDepthList> list) {
 }
 
 void TMapWindow::SetFileName(const QString& path) {
-  name_ = BaseNameTitle(path);
-  setWindowTitle(name_);
+  setWindowTitle(BaseNameTitle(path));
 }
 
 DepthMapInfo TMapWindow::GetBitmapInfo() const {
@@ -66,7 +66,13 @@ DepthMapInfo TMapWindow::GetBitmapInfo() const {
 }
 
 Result<DepthMapState> TMapWindow::ReadDepthMap(const QString& path) {
-  auto contents = plenovia::ReadDepthMap(ToPath(path));
+  const auto bytes = ReadFile(ToPath(path));
+  if (!bytes) return tl::unexpected(bytes.error());
+  return ReadDepthMap(std::span<const std::uint8_t>(*bytes));
+}
+
+Result<DepthMapState> TMapWindow::ReadDepthMap(std::span<const std::uint8_t> bytes) {
+  auto contents = DecodeDepthMap(bytes);
   if (contents && contents->list.GetImageSize() == 0) {
     contents = Failure(ErrorCode::kCorrupt, "The depth map has no size.");
   }
@@ -99,11 +105,29 @@ void TMapWindow::ResizeToMap() {
   const auto side = [](std::int64_t size) {
     return static_cast<int>(std::clamp<std::int64_t>(size, 0, kGreatestSide));
   };
-  SetClientSize({side(list_->GetWidth()), side(list_->GetHeight())});
+  extent_ = {side(list_->GetWidth()), side(list_->GetHeight())};
+  SetClientSize(extent_);
+  SetScrollExtent(extent_);
+}
+
+Result<void> TMapWindow::Save(const QString& path) {
+  Result<void> written = WriteDepthMap(path);
+  if (written) SetFile(path);
+  return written;
+}
+
+QString TMapWindow::SavingText(const QString&) const {
+  return tr("Writing Depth Map File");
+}
+
+DocumentStatus TMapWindow::Status() const {
+  const DepthMapInfo info = GetBitmapInfo();
+  return PictureStatus(info.width, info.height, info.bitsPerPixel,
+                       static_cast<std::int64_t>(GetImageSize()));
 }
 
 bool TMapWindow::HandlesCommand(int command) const {
-  return IsMapTool(command) || (command >= kSetLevel && command <= kDeleteObject);
+  return IsMapCommand(command);
 }
 
 void TMapWindow::RunCommand(int command) {
@@ -147,40 +171,47 @@ void TMapWindow::StateMayHaveChanged() {
   if (changed) Q_EMIT StateChanged();
 }
 
-MapPicture& TMapWindow::Picture() {
+MapPicture& TMapWindow::Painting() {
   if (!labels_ || !labels_->Fits(*this)) {
     picture_.reset();
     labels_ = std::make_unique<LevelLabelFont>(*this);
   }
   if (!picture_) picture_ = std::make_unique<MapPicture>(*list_, *labels_);
-  const QSize size = ClientSize();
+  const QRect view = View();
+  const QSize size = extent_.expandedTo({view.right() + 1, view.bottom() + 1});
   picture_->SetSize(size.width(), size.height());
+  picture_->KeepRows(view.top(), view.bottom() + 1);
   return *picture_;
 }
 
 QRect TMapWindow::InClient(const PixelRect& area) const {
-  const QSize size = ClientSize();
-  const auto left = static_cast<int>(std::clamp<std::int64_t>(area.left, 0, size.width()));
-  const auto top = static_cast<int>(std::clamp<std::int64_t>(area.top, 0, size.height()));
-  const auto right = static_cast<int>(std::clamp<std::int64_t>(area.right, 0, size.width()));
-  const auto bottom = static_cast<int>(std::clamp<std::int64_t>(area.bottom, 0, size.height()));
-  return {left, top, right - left, bottom - top};
+  const QRect view = View();
+  const auto within = [](std::int64_t place, int first, int side) {
+    return static_cast<int>(std::clamp<std::int64_t>(place - first, 0, side));
+  };
+  const QPoint corner(within(area.left, view.left(), view.width()),
+                      within(area.top, view.top(), view.height()));
+  const QPoint end(within(area.right, view.left(), view.width()),
+                   within(area.bottom, view.top(), view.height()));
+  return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
 }
 
 void TMapWindow::Paint(QPainter& painter, const QRect& exposed) {
-  const QRect area = exposed & QRect(QPoint(), ClientSize());
-  if (area.isEmpty()) return;
+  painter.fillRect(exposed, Ground());
+  const QRect seen = exposed & QRect(QPoint(), ClientSize());
+  if (seen.isEmpty()) return;
+  const QRect area = seen.translated(ScrollPosition());
   QImage shown(area.size(), QImage::Format_ARGB32_Premultiplied);
   if (shown.isNull()) return;
-  Picture().Render(
+  Painting().Render(
       {area.left(), area.top(), area.left() + area.width(), area.top() + area.height()}, rubber_,
       {reinterpret_cast<std::uint32_t*>(shown.bits()),
        static_cast<std::size_t>(shown.sizeInBytes()) / sizeof(std::uint32_t)});
-  painter.drawImage(area.topLeft(), shown);
+  painter.drawImage(seen.topLeft(), shown);
 }
 
 void TMapWindow::Repaint(const PixelRect& area) {
-  Invalidate(InClient(Picture().WithLabels(area)));
+  Invalidate(InClient(Painting().WithLabels(area)));
 }
 
 void TMapWindow::InvalidateRubber() {
@@ -225,10 +256,14 @@ void TMapWindow::LeftDrag(int x, int y) {
 
 void TMapWindow::OnLButtonUp(MouseKeys, QPoint) {
   if (LeftDragged() && IsDrawingTool(tool_) && tool_ != kPolygonTool) AddShape();
+  EndRubber();
+  StateMayHaveChanged();
+}
+
+void TMapWindow::EndRubber() {
   InvalidateRubber();
   rubber_.SetClosed(false);
   if (tool_ != kPolygonTool) rubber_.Stop();
-  StateMayHaveChanged();
 }
 
 void TMapWindow::HoverMove(int x, int y) {

@@ -10,7 +10,7 @@
 #include "depthmap/rubber_band.h"
 #include "depthmap/ui/level_label_font.h"
 #include "depthmap/ui/map_tools.h"
-#include "depthmap/ui/mouse_wnd.h"
+#include "documents/ui/mouse_wnd.h"
 #include "platform/result.h"
 
 namespace plenovia {
@@ -23,7 +23,7 @@ struct DepthMapInfo {
 
 enum class DepthMapState { kWhole, kDamaged };
 
-// Shows the whole map, one pixel of it a pixel of the display.
+// Shows the map, one pixel of it a pixel of the display. Scrolls where the map is larger.
 class TMapWindow : public TMouseWnd, private DepthObjOwner {
   Q_OBJECT
 
@@ -32,10 +32,9 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   TMapWindow(QMdiArea* client, const QString& title, int width, int height, QWidget* frame);
   ~TMapWindow() override;
 
-  // The caption: the lower-cased file name of a path.
-  const QString& GetTitle() const { return name_; }
+  // The caption becomes the lower-cased file name of the path.
   void SetFileName(const QString& path);
-  bool IsSaved() const { return list_->IsSaved(); }
+  bool IsSaved() const override { return list_->IsSaved(); }
 
   // The map's size, at most the greatest int, and its bytes as a picture with 8 bits a pixel.
   DepthMapInfo GetBitmapInfo() const;
@@ -46,43 +45,51 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   std::shared_ptr<const LevelGrid> Levels() const { return list_; }
 
   // Replaces the map by that of a file and fits the window to it. kDamaged when the file breaks its
-  // format but holds a map all the same. A file that is no depth map, or whose map has no size, is
+  // format but holds a map nevertheless. A file that is no depth map, or whose map has no size, is
   // kCorrupt: the user has been told, and the map stays as it was. Of other errors the user has not
   // been told.
   [[nodiscard]] Result<DepthMapState> ReadDepthMap(const QString& path);
+  // The same with the contents of a file.
+  [[nodiscard]] Result<DepthMapState> ReadDepthMap(std::span<const std::uint8_t> bytes);
   // Takes the path's name, also when the file cannot be written; then the map is as saved or
   // unsaved as it was. The user is not told.
   [[nodiscard]] Result<void> WriteDepthMap(const QString& path);
 
   int CurrentTool() const { return tool_; }
-  // Numbers that are no tool's are passed over.
+  // Numbers that are no tool's are ignored.
   void SetTool(int id);
-  // Gives the window's inside the size of the map.
+  // Gives the window's inside the size of the map, as far as there is room.
   void ResizeToMap();
 
   bool HandlesCommand(int command) const override;
   void RunCommand(int command) override;
   bool NeedsSaving() const override { return !IsSaved(); }
-
- Q_SIGNALS:
-  // This window is the active one and has this tool.
-  void ToolChanged(int tool);
+  bool CanSave() const override { return true; }
+  Result<void> Save(const QString& path) override;
+  QString SavingText(const QString& path) const override;
+  DocumentStatus Status() const override;
+  DocumentDepth Depth() const override { return {nullptr, 1.0, Levels()}; }
 
  protected:
   void Paint(QPainter& painter, const QRect& exposed) override;
   void EvMDIActivate(bool active) override;
+  QPoint TrackingPoint(const QPoint& client) const override { return client + ScrollPosition(); }
   void OnLButtonDown(MouseKeys keys, QPoint point) override;
   void OnLButtonUp(MouseKeys keys, QPoint point) override;
   void OnLButtonDblClk(MouseKeys keys, QPoint point) override;
+  void OnLeftTrackLost() override { EndRubber(); }
   void LeftDrag(int x, int y) override;
   void HoverMove(int x, int y) override;
 
  private:
   void Repaint(const PixelRect& area) override;
   void SetList(std::shared_ptr<TDepthList> list);
-  MapPicture& Picture();
+  MapPicture& Painting();
+  // What of the map is in view.
+  QRect View() const { return {ScrollPosition(), ClientSize()}; }
   QRect InClient(const PixelRect& area) const;
   void InvalidateRubber();
+  void EndRubber();
   void StateMayHaveChanged();
 
   void MoveSelected(QPoint way);
@@ -95,7 +102,7 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   std::unique_ptr<LevelLabelFont> labels_;
   std::unique_ptr<MapPicture> picture_;
   RubberBand rubber_;
-  QString name_;
+  QSize extent_;
   int tool_ = kSelectTool;
   bool knownSaved_ = false;
   const TDepthObj* knownSelected_ = nullptr;  // compared only

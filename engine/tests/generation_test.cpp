@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "engine/bands.h"
+#include "engine/tests/plain_shift.h"
 #include "engine/tiling.h"
 #include "testing/picture_compare.h"
 
@@ -47,7 +48,8 @@ IndexedImage ByHand(const IndexedImage& source, const IndexedImage& pattern,
   const int gap = settings.gapValue;
   const int width = source.width() + (widens ? gap : 0);
   auto wide = IndexedImage::Create(width, source.height(), pattern.palette().Widened()).value();
-  TilePattern(wide, pattern, settings.scanMethod);
+  const int origin = ScanMethodOf(settings.scanMethod).TileOrigin(width, pattern.width());
+  for (int y = 0; y < wide.height(); ++y) TilePatternRow(wide.Row(y), pattern, origin, y);
   auto result = IndexedImage::Create(source.width(), source.height(), wide.palette()).value();
   for (int n = 0; n < source.height(); ++n) {
     std::vector<std::int32_t> depth(static_cast<std::size_t>(width));
@@ -123,21 +125,32 @@ TEST_F(Generation, StopsAfterABandWithoutAResult) {
             (std::vector<std::string>{"1  0/0", "3 Generating Dots 0/100", "2  0/0"}));
 }
 
-TEST_F(Generation, ZoomReadsTheNearestPixel) {
-  settings_.scanMethod = kFeucht;
-  settings_.marker = 0;
-  const IndexedImage source = RandomPicture(random_, 60, 40, 20);
-  auto doubled = IndexedImage::Create(120, 80, source.palette()).value();
+TEST_F(Generation, AZoomedRunIsThatOfTheZoomedPictureWithTheZoomedGap) {
+  settings_.gapValue = 60;
+  const IndexedImage source = RandomPicture(random_, 160, 40, 20);
+  auto doubled = IndexedImage::Create(320, 80, source.palette()).value();
+  // Rows are counted from below.
+  auto halved = IndexedImage::Create(80, 20, source.palette()).value();
   for (int y = 0; y < 80; ++y) {
-    for (std::size_t x = 0; x < 120; ++x) doubled.Row(y)[x] = source.Row(y / 2)[x / 2];
+    for (std::size_t x = 0; x < 320; ++x) doubled.Row(y)[x] = source.Row(y / 2)[x / 2];
   }
-  EXPECT_TRUE(SamePixels(MakeSirdFromBitmap(doubled, 1.0, Input()).value(),
-                         MakeSirdFromBitmap(source, 2.0, Input()).value()));
-  settings_.scanMethod = kMcMahon;
-  const auto widened = MakeSirdFromBitmap(source, 2.0, Input()).value();
-  EXPECT_EQ(widened.width(), 2 * 60 + 2 * 100 - 100);
-  const auto tooSmall = MakeSirdFromBitmap(source, 0.25, Input());
-  EXPECT_FALSE(tooSmall);
+  for (int y = 0; y < 20; ++y) {
+    for (std::size_t x = 0; x < 80; ++x) halved.Row(y)[x] = source.Row(2 * y + 1)[2 * x];
+  }
+  for (const std::int32_t method : {kLeftToRight, kMcMahon, kFeucht}) {
+    settings_.scanMethod = method;
+    for (const auto& [zoom, zoomed] : {std::pair(2.0, doubled), std::pair(0.5, halved)}) {
+      const auto result = MakeSirdFromBitmap(source, zoom, Input()).value();
+      TSirdsSettings settings = settings_;
+      settings.gapValue = static_cast<std::int32_t>(settings_.gapValue * zoom);
+      const auto expected = MakeSirdFromBitmap(zoomed, 1.0, {pattern_, settings, monitor_});
+      EXPECT_TRUE(SamePixels(expected.value(), result)) << "method " << method;
+    }
+  }
+  // Less than the gap is left of it, which once gave a negative width.
+  EXPECT_EQ(MakeSirdFromBitmap(RandomPicture(random_, 60, 60, 9), 0.25, Input())->width(), 15);
+  const auto nothing = MakeSirdFromBitmap(RandomPicture(random_, 3, 60, 9), 0.25, Input());
+  EXPECT_EQ(nothing.error().message, "The picture is too small for this zoom.");
   EXPECT_EQ(monitor_.events.back(), "2  0/0");
 }
 
@@ -263,8 +276,9 @@ TEST(Tiles, StartAtTheLeftOrAroundTheMiddle) {
     const IndexedImage tile = RandomPicture(random, tileWidth, 9, 256);
     auto picture = IndexedImage::Create(500, 20, tile.palette()).value();
     for (const std::int32_t method : {1, 2, 3}) {
-      TilePattern(picture, tile, method);
-      const int origin = method == 1 ? 0 : 250 - tileWidth / 2;
+      const int origin = ScanMethodOf(method).TileOrigin(500, tileWidth);
+      EXPECT_EQ(origin, method == 1 ? 0 : 250 - tileWidth / 2);
+      for (int y = 0; y < 20; ++y) TilePatternRow(picture.Row(y), tile, origin, y);
       for (int y = 0; y < 20; ++y) {
         for (int x = 0; x < 500; ++x) {
           const int column = ((x - origin) % tileWidth + tileWidth) % tileWidth;

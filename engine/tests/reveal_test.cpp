@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "engine/separation.h"
-#include "engine/smooth_paths.h"
 #include "engine/tests/stereogram_truth.h"
 #include "platform/random.h"
 #include "testing/picture_compare.h"
@@ -94,7 +93,7 @@ std::vector<NamedSurface> Surfaces() {
            })}};
 }
 
-class RevealByMethod : public testing::TestWithParam<ScanMethod> {
+class RevealByMethod : public testing::TestWithParam<ScanMethodNumber> {
  protected:
   RevealByMethod() { rule_.settings.scanMethod = GetParam(); }
 
@@ -106,8 +105,9 @@ class RevealByMethod : public testing::TestWithParam<ScanMethod> {
 };
 
 TEST_P(RevealByMethod, FindsTheDepthOfEverySurfaceInEveryTexture) {
-  const RevealOptions options{
-      .anchor = AnchorOf(GetParam()), .smallest = Separation(25) - 2, .largest = Separation(0) + 2};
+  const RevealOptions options{.anchor = ScanMethodOf(GetParam()).anchor,
+                              .smallest = Separation(25) - 2,
+                              .largest = Separation(0) + 2};
   for (const NamedSurface& surface : Surfaces()) {
     for (const NamedTile& texture : Tiles()) {
       const IndexedImage picture = MakeTestStereogram(surface.levels, texture.tile, rule_);
@@ -124,7 +124,7 @@ TEST_P(RevealByMethod, FindsTheRangeFromThePicture) {
   const NamedSurface surface = Surfaces().front();
   for (const NamedTile& texture : Tiles()) {
     const IndexedImage picture = MakeTestStereogram(surface.levels, texture.tile, rule_);
-    const auto revealed = RevealQuietly(picture, {.anchor = AnchorOf(GetParam())});
+    const auto revealed = RevealQuietly(picture, {.anchor = ScanMethodOf(GetParam()).anchor});
     ASSERT_TRUE(revealed);
     EXPECT_LE(revealed->smallest, Separation(24)) << texture.name;
     EXPECT_GE(revealed->largest, Separation(0)) << texture.name;
@@ -145,7 +145,8 @@ TEST_P(RevealByMethod, LevelsComeBackFromTheirSeparations) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Methods, RevealByMethod, testing::Values(kLeftToRight, kMcMahon, kFeucht));
+INSTANTIATE_TEST_SUITE_P(Methods, RevealByMethod,
+                         testing::Values(kLeftToRight, kMcMahon, kFeucht, kSmooth));
 
 TEST(Reveal, IsCertainOfRepeatsAndOfNothingElse) {
   Random random(3);
@@ -214,54 +215,6 @@ TEST(Reveal, RefusesBadRangesAndStopsWhenAsked) {
   ASSERT_FALSE(stopped);
   EXPECT_EQ(stopped.error().code, ErrorCode::kCancelled);
   EXPECT_EQ(monitor.last, ProgressPhase::kEnd);
-}
-
-TEST(MatchCost, RowsHoldTheCostOfEachPair) {
-  Random random(6);
-  for (int round = 0; round < 60; ++round) {
-    IndexedImage picture =
-        RandomPicture(random, random.Int(1, 90), random.Int(1, 3), random.Int(2, 30));
-    if (round % 2 == 0) picture.SetPalette(Palette::Grays(picture.palette().size()));
-    const int smallest = random.Int(1, 40);
-    const SeparationRange range{smallest, smallest + random.Int(0, 50)};
-    const auto anchor = round % 3 == 0 ? RevealAnchor::kRight : RevealAnchor::kCentre;
-    const MatchCost cost(picture, range, anchor);
-    MatchCost::Scratch scratch;
-    std::vector<std::uint8_t> row(static_cast<std::size_t>(picture.width()) * cost.lanes());
-    const int y = picture.height() - 1;
-    cost.Row(y, 200, scratch, row);
-    for (int x = 0; x < picture.width(); ++x) {
-      const std::uint8_t* lanes = row.data() + static_cast<std::size_t>(x) * cost.lanes();
-      for (int s = range.smallest; s <= range.largest; ++s) {
-        ASSERT_EQ(int{lanes[s - range.smallest]}, cost.PairCost(x, y, s)) << x << " at " << s;
-      }
-      ASSERT_EQ(int{lanes[range.count()]}, 200);
-    }
-  }
-}
-
-TEST(SmoothPaths, StepIsTheCheapestWayFromThePixelBefore) {
-  constexpr std::size_t kLanes = 48;
-  Random random(7);
-  for (int round = 0; round < 200; ++round) {
-    std::vector<std::uint8_t> before(kLanes + 2 * kByteLanes, kBeyondCost);
-    std::vector<std::uint8_t> cost(kLanes);
-    std::vector<std::uint8_t> path(kLanes);
-    for (std::size_t i = 0; i < kLanes; ++i) {
-      before[kByteLanes + i] = static_cast<std::uint8_t>(random.Int(0, kHighestBetweenRows));
-      cost[i] = static_cast<std::uint8_t>(random.Int(0, MatchCost::kHighestCost));
-    }
-    const std::uint8_t* from = before.data() + kByteLanes;
-    const int lowest = *std::min_element(from, from + kLanes);
-    const int found = StepPath<kBetweenRows>(from, static_cast<std::uint8_t>(lowest), cost.data(),
-                                             kLanes, path.data());
-    for (std::size_t i = 0; i < kLanes; ++i) {
-      const int beside = std::min(from[i + 1], *(from + i - 1)) + kBetweenRows.byOne;
-      const int way = std::min({int{from[i]}, beside, lowest + kBetweenRows.byMore});
-      ASSERT_EQ(int{path[i]}, cost[i] + way - lowest);
-    }
-    EXPECT_EQ(found, *std::min_element(path.begin(), path.end()));
-  }
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ SirdsSettingsEntry DefaultEntry() {
 }
 
 struct NumberCase {
-  std::string_view SirdsSettingsEntry::*typed;
+  std::string SirdsSettingsEntry::*typed;
   std::string_view text;
   std::int32_t TSirdsSettings::*field;
   std::int32_t value;
@@ -73,6 +73,29 @@ TEST(Normalise, FieldsSettleInOrder) {
   EXPECT_EQ(settings.zmax, 80);
   EXPECT_EQ(settings.scanMethod, kFeucht);
   EXPECT_EQ(settings.depthSel, kDepthByBrightness);
+}
+
+TEST(Replacements, NameEachTextThatIsNotTakenAsTyped) {
+  using E = SirdsSettingsEntry;
+  SirdsSettingsEntry entry = DefaultEntry();
+  entry.w = " 0400 ";
+  entry.h = "+300";
+  entry.da = "-0";
+  EXPECT_TRUE(Replacements(entry).empty());
+  entry.gapValue = "20";
+  entry.w = "150";
+  entry.h = "200px";
+  entry.dy = "";
+  entry.da = "-";
+  entry.zmin = "80";
+  entry.zmax = "20";
+  EXPECT_EQ(Replacements(entry), (std::vector<Replacement>{{&E::w, 200},
+                                                           {&E::h, 200},
+                                                           {&E::gapValue, 100},
+                                                           {&E::dy, 0},
+                                                           {&E::da, 0},
+                                                           {&E::zmin, 20},
+                                                           {&E::zmax, 80}}));
 }
 
 TEST(RestoreDefaults, KeepsUseBmp) {

@@ -7,6 +7,7 @@
 #include <span>
 
 #include "engine/separation.h"
+#include "engine/tests/plain_shift.h"
 #include "platform/random.h"
 
 namespace plenovia {
@@ -21,7 +22,7 @@ std::span<const std::int32_t> RowOf(const LevelPicture& levels, int y) {
 }
 
 // 1 for each pixel of the picture within 12 rows and columns of an edge.
-std::vector<std::uint8_t> NearEdges(const LevelPicture& levels) {
+std::vector<std::uint8_t> NearEdges(const LevelPicture& levels, const StereogramRule& rule) {
   std::vector<std::uint8_t> near(levels.levels.size());
   const auto mark = [&](int x, int y) {
     for (int v = std::max(0, y - kEdgeDistance);
@@ -32,12 +33,17 @@ std::vector<std::uint8_t> NearEdges(const LevelPicture& levels) {
                   right - left + 1, std::uint8_t{1});
     }
   };
+  const auto edge = [&](std::int32_t a, std::int32_t b) {
+    const auto separation = [&](std::int32_t level) {
+      return SeparationFromLevel(level, rule.settings, rule.kind, levels.width);
+    };
+    return a != b && (std::abs(a - b) > 1 || std::abs(separation(a) - separation(b)) > 2);
+  };
   for (int y = 0; y < levels.height; ++y) {
     for (int x = 0; x < levels.width; ++x) {
       const std::int32_t level = levels.At(x, y);
-      const bool across = x > 0 && std::abs(level - levels.At(x - 1, y)) > 1;
-      const bool down = y > 0 && std::abs(level - levels.At(x, y - 1)) > 1;
-      if (across || down) mark(x, y);
+      if (x > 0 && edge(level, levels.At(x - 1, y))) mark(x, y);
+      if (y > 0 && edge(level, levels.At(x, y - 1))) mark(x, y);
     }
   }
   return near;
@@ -45,7 +51,8 @@ std::vector<std::uint8_t> NearEdges(const LevelPicture& levels) {
 
 // The left column of the pair that speaks for column x.
 std::int64_t LeftOf(int x, std::int64_t separation, const StereogramRule& rule) {
-  return rule.settings.scanMethod == kFeucht ? x - (separation >> 1) : x - separation;
+  const bool centred = ScanMethodOf(rule.settings.scanMethod).anchor == RevealAnchor::kCentre;
+  return centred ? x - (separation >> 1) : x - separation;
 }
 
 // Rows of random pixels after the shift: the pairs that the method made hold the same pixel in all.
@@ -91,7 +98,7 @@ RevealScore ScoreReveal(const RevealedDepth& revealed, const LevelPicture& level
                         const StereogramRule& rule) {
   RevealScore score;
   Random random(1);
-  const std::vector<std::uint8_t> near = NearEdges(levels);
+  const std::vector<std::uint8_t> near = NearEdges(levels, rule);
   for (int y = 0; y < revealed.height; ++y) {
     const ShiftedRows rows(RowOf(levels, y), rule, random);
     for (int x = 0; x < revealed.width; ++x) {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "engine/reveal.h"
-#include "engine/scan_methods.h"
+#include "engine/scan_method.h"
 #include "engine/sirds_settings.h"
 #include "platform/indexed_image.h"
 
@@ -51,7 +51,8 @@ struct RevealScore {
   double Fraction() const { return counted == 0 ? 0.0 : static_cast<double>(found) / counted; }
 };
 
-// A depth edge is where neighbouring levels differ by more than 1.
+// A depth edge is where neighbouring levels differ by more than 1, or in more than 2 pixels of
+// separation.
 RevealScore ScoreReveal(const RevealedDepth& revealed, const LevelPicture& levels,
                         const StereogramRule& rule);
 

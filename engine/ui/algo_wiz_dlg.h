@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QRadioButton>
-#include <array>
+#include <vector>
 
 #include "engine/sirds_settings.h"
 #include "images/ui/wizard_dlg.h"
@@ -19,11 +19,11 @@ class AlgoWizDlg : public WizardDlg {
   const TSirdsSettings& Settings() const { return settings_; }
 
  protected:
-  void OnNext() override;
+  bool OnNext() override;
 
  private:
   TSirdsSettings settings_;
-  std::array<QRadioButton*, 3> methods_;  // in the order of ScanMethod
+  std::vector<QRadioButton*> methods_;  // in the order of ScanMethods()
 };
 
 }  // namespace plenovia

@@ -11,4 +11,13 @@ QString DepthRangeHint() {
       "about 1500.");
 }
 
+QString FittedRangeText(const FittedRange& fitted, const TSirdsSettings& settings) {
+  return QCoreApplication::translate(
+             "DepthRangeHint", "Depth range %1 to %2 instead of %3 to %4, so that all depths show.")
+      .arg(fitted.zmin)
+      .arg(fitted.zmax)
+      .arg(settings.zmin)
+      .arg(settings.zmax);
+}
+
 }  // namespace plenovia

@@ -1,9 +1,11 @@
 #include "engine/ui/figure_caption.h"
 
+#include <QCoreApplication>
 #include <QFont>
 #include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
+#include <QStringList>
 #include <cstdint>
 #include <vector>
 
@@ -14,19 +16,38 @@ namespace plenovia {
 namespace {
 
 constexpr int kLetterHeight = 14;  // pixels
+// The caption's place in the picture: from the left edge, and its top from the lower edge.
+constexpr int kLeft = 10;
+constexpr int kHeight = 21;
 
-}  // namespace
-
-void DrawFigureCaption(IndexedImage& picture, const QString& title) {
-  const QString text = QStringLiteral("%1 - %2 - %3")
-                           .arg(title, QStringLiteral("Plenovia"),
-                                QStringLiteral("single image random dot stereogram"));
+QFont CaptionFont() {
   QFont font(QStringLiteral("MS Sans Serif"));
   font.setStyleHint(QFont::SansSerif);
   font.setPixelSize(kLetterHeight - 2);
   font.setBold(true);
   font.setStyleStrategy(QFont::NoAntialias);
+  return font;
+}
+
+// As many of the parts, from the first one on, as fit side by side.
+QString FittingText(QStringList parts, const QFontMetrics& metrics, int width) {
+  const QString between = QStringLiteral(" - ");
+  while (!parts.isEmpty() && metrics.horizontalAdvance(parts.join(between)) > width) {
+    parts.removeLast();
+  }
+  return parts.join(between);
+}
+
+}  // namespace
+
+void DrawFigureCaption(IndexedImage& picture, const QString& title) {
+  const QFont font = CaptionFont();
   const QFontMetrics metrics(font);
+  const QString text =
+      FittingText({title, QStringLiteral("Plenovia"),
+                   QCoreApplication::translate("FigureCaption", "SIRDS", "stereogram")},
+                  metrics, picture.width() - kLeft);
+  if (text.isEmpty() || picture.height() < kHeight) return;
   QImage letters(std::max(1, metrics.horizontalAdvance(text)), metrics.height(),
                  QImage::Format_Grayscale8);
   letters.fill(Qt::black);

@@ -25,11 +25,13 @@ void FrameMonitor::OnProgress(ProgressPhase phase, const ProgressInfo& progress)
 
 bool FrameMonitor::StopRequested() {
   if (sincePump_.isValid() && sincePump_.nsecsElapsed() < kNanosecondsBetweenPumps) return false;
-  const bool stops = PumpAndCheckAbort(frame_) != 0;
+  const Abort seen = PumpAndCheckAbort(frame_);
   ClearUpperVectorHalves();
   sincePump_.start();
-  if (stops && beeps_) QApplication::beep();
-  return stops;
+  isStopped_ = seen == Abort::kStopped;
+  const bool ends = seen != Abort::kNone || (over_ && over_());
+  if (ends && beeps_) QApplication::beep();
+  return ends;
 }
 
 }  // namespace plenovia

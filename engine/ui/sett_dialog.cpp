@@ -1,78 +1,115 @@
 #include "engine/ui/sett_dialog.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <cstdint>
 #include <string>
+#include <vector>
 
+#include "engine/scan_method.h"
 #include "engine/ui/depth_range_hint.h"
 #include "platform/ui/dialog_controls.h"
+#include "platform/ui/text.h"
 
 namespace plenovia {
+
+namespace {
+
+struct Number {
+  int id;
+  const char* name;
+  std::string SirdsSettingsEntry::*typed;
+  std::int32_t TSirdsSettings::*field;
+};
+constexpr std::array<Number, 8> kNumbers = {{
+    {104, QT_TRANSLATE_NOOP("Number", "Width"), &SirdsSettingsEntry::w, &TSirdsSettings::w},
+    {105, QT_TRANSLATE_NOOP("Number", "Height"), &SirdsSettingsEntry::h, &TSirdsSettings::h},
+    {107, QT_TRANSLATE_NOOP("Number", "Gap Value"), &SirdsSettingsEntry::gapValue,
+     &TSirdsSettings::gapValue},
+    {101, QT_TRANSLATE_NOOP("Number", "Horizontal displacement"), &SirdsSettingsEntry::dx,
+     &TSirdsSettings::dx},
+    {102, QT_TRANSLATE_NOOP("Number", "Vertical displacement"), &SirdsSettingsEntry::dy,
+     &TSirdsSettings::dy},
+    {110, QT_TRANSLATE_NOOP("Number", "Angular displacement"), &SirdsSettingsEntry::da,
+     &TSirdsSettings::da},
+    {103, QT_TRANSLATE_NOOP("Number", "Zmin"), &SirdsSettingsEntry::zmin, &TSirdsSettings::zmin},
+    {114, QT_TRANSLATE_NOOP("Number", "Zmax"), &SirdsSettingsEntry::zmax, &TSirdsSettings::zmax},
+}};
+constexpr int kNoteLines = 2;
+
+QString NameOf(const Number& number) {
+  return QCoreApplication::translate("Number", number.name);
+}
+
+}  // namespace
 
 TSettDialog::TSettDialog(QWidget* parent, TSirdsSettings& settings)
     : QDialog(parent),
       settings_(settings),
-      width_(MakeNumberEdit(104)),
-      height_(MakeNumberEdit(105)),
-      gap_(MakeNumberEdit(107)),
-      dx_(MakeNumberEdit(101)),
-      dy_(MakeNumberEdit(102)),
-      da_(MakeNumberEdit(110)),
-      zmin_(MakeNumberEdit(103)),
-      zmax_(MakeNumberEdit(114)),
+      note_(MakeNote(kNoteLines)),
       markers_(MakeCheck(109, tr("Add Markers"))),
       useBitmap_(MakeCheck(111, tr("Use Open Bitmap"))),
       byColor_(MakeRadio(108, tr("Depth by Color"))),
       byBrightness_(MakeRadio(112, tr("Depth by Brightness"))),
       scanMethod_(new QComboBox),
+      fitRange_(MakeCheck(115, tr("Fit the depth range"))),
       restore_(MakeCheck(106, tr("Restore Defaults"))) {
   setObjectName(QStringLiteral("SETT"));
   setWindowTitle(tr("SIRDS Settings"));
+  fitRange_->setToolTip(
+      tr("Where Zmin and Zmax do not show all depths of a source, its stereogram is "
+         "made with a range that does."));
   scanMethod_->setObjectName(QStringLiteral("list113"));
-  scanMethod_->addItems({tr("Left-To-Right"), tr("McMahon"), tr("Feucht")});
+  for (const ScanMethod* method : ScanMethods()) scanMethod_->addItem(tr(method->title));
+  for (std::size_t i = 0; i < kNumbers.size(); ++i) {
+    numbers_[i] = MakeNumberEdit(kNumbers[i].id);
+    connect(numbers_[i], &QLineEdit::textChanged, this, &TSettDialog::TellReplacements);
+  }
 
   auto* boxes = new QHBoxLayout;
   boxes->addWidget(MakeParameters());
   boxes->addWidget(MakeOptions());
   auto* all = new QVBoxLayout(this);
   all->addLayout(boxes);
+  all->addWidget(fitRange_);
+  all->addWidget(note_);
   all->addWidget(restore_, 0, Qt::AlignHCenter);
   all->addLayout(MakeOkCancelRow(this));
   all->setSizeConstraint(QLayout::SetFixedSize);
 
   connect(restore_, &QCheckBox::clicked, this, &TSettDialog::RestoreClicked);
   SetupWindow();
+  numbers_.front()->setFocus();
+  numbers_.front()->selectAll();
 }
 
 QGroupBox* TSettDialog::MakeParameters() {
+  const auto addBeside = [this](QHBoxLayout& row, std::size_t i) {
+    row.addWidget(MakeLabel(NameOf(kNumbers[i]), numbers_[i]));
+    row.addWidget(numbers_[i]);
+  };
   auto* size = new QHBoxLayout;
-  size->addWidget(MakeLabel(tr("Width"), width_));
-  size->addWidget(width_);
+  addBeside(*size, 0);
   size->addStretch();
-  size->addWidget(MakeLabel(tr("Height"), height_));
-  size->addWidget(height_);
+  addBeside(*size, 1);
 
   auto* numbers = new QGridLayout;
   numbers->setColumnStretch(0, 1);
-  int row = 0;
-  const auto add = [&](const QString& text, QLineEdit* edit) {
-    numbers->addWidget(MakeLabel(text, edit), row, 0, Qt::AlignRight);
-    numbers->addWidget(edit, row++, 1);
-  };
-  add(tr("Gap Value"), gap_);
-  add(tr("Horizontal displacement"), dx_);
-  add(tr("Vertical displacement"), dy_);
-  add(tr("Angular displacement"), da_);
+  for (std::size_t i = 2; i < 6; ++i) {
+    const int row = static_cast<int>(i);
+    numbers->addWidget(MakeLabel(NameOf(kNumbers[i]), numbers_[i]), row, 0, Qt::AlignRight);
+    numbers->addWidget(numbers_[i], row, 1);
+  }
 
   auto* depth = new QGroupBox(tr("Depth Resolution"));
   depth->setToolTip(DepthRangeHint());
   auto* range = new QHBoxLayout(depth);
-  range->addWidget(MakeLabel(tr("Zmin"), zmin_));
-  range->addWidget(zmin_);
+  addBeside(*range, 6);
   range->addStretch();
-  range->addWidget(MakeLabel(tr("Zmax"), zmax_));
-  range->addWidget(zmax_);
+  addBeside(*range, 7);
 
   auto* group = new QGroupBox(tr("Parameters"));
   auto* all = new QVBoxLayout(group);
@@ -98,49 +135,56 @@ QGroupBox* TSettDialog::MakeOptions() {
 }
 
 void TSettDialog::SetupWindow() {
-  width_->setText(QString::number(settings_.w));
-  height_->setText(QString::number(settings_.h));
-  gap_->setText(QString::number(settings_.gapValue));
-  dx_->setText(QString::number(settings_.dx));
-  dy_->setText(QString::number(settings_.dy));
-  da_->setText(QString::number(settings_.da));
-  zmin_->setText(QString::number(settings_.zmin));
-  zmax_->setText(QString::number(settings_.zmax));
+  for (std::size_t i = 0; i < kNumbers.size(); ++i) {
+    numbers_[i]->setText(QString::number(settings_.*kNumbers[i].field));
+  }
   (settings_.depthSel == kDepthByColor ? byColor_ : byBrightness_)->setChecked(true);
   scanMethod_->setCurrentIndex(settings_.scanMethod - 1);
   markers_->setChecked(settings_.marker != 0);
   useBitmap_->setChecked(settings_.useBmp != 0);
+  fitRange_->setChecked(settings_.fitRange != 0);
 }
 
 void TSettDialog::RestoreClicked(bool checked) {
-  if (!checked) return;
-  RestoreDefaults(settings_);
-  SetupWindow();
+  if (checked) {
+    RestoreDefaults(settings_);
+    SetupWindow();
+  }
+  TellReplacements();
+}
+
+SirdsSettingsEntry TSettDialog::Entry() const {
+  SirdsSettingsEntry entry;
+  for (std::size_t i = 0; i < kNumbers.size(); ++i) {
+    entry.*kNumbers[i].typed = numbers_[i]->text().toStdString();
+  }
+  entry.depthByColor = byColor_->isChecked();
+  entry.scanPosition = scanMethod_->currentIndex();
+  entry.addMarkers = markers_->isChecked();
+  entry.useOpenBitmap = useBitmap_->isChecked();
+  entry.fitRange = fitRange_->isChecked();
+  return entry;
+}
+
+void TSettDialog::TellReplacements() {
+  QStringList sentences;
+  const SirdsSettingsEntry entry = Entry();
+  // While the defaults are in force OK reads nothing.
+  for (const Replacement& replaced :
+       restore_->isChecked() ? std::vector<Replacement>() : Replacements(entry)) {
+    const auto number = std::find_if(kNumbers.begin(), kNumbers.end(), [&](const Number& each) {
+      return each.typed == replaced.typed;
+    });
+    const QString typed = ToQString(entry.*replaced.typed).trimmed();
+    sentences << tr("%1 becomes %2.")
+                     .arg((NameOf(*number) + u' ' + typed).trimmed(),
+                          QString::number(replaced.becomes));
+  }
+  note_->setText(sentences.join(u' '));
 }
 
 void TSettDialog::accept() {
-  if (!restore_->isChecked()) {
-    const std::string width = width_->text().toStdString();
-    const std::string height = height_->text().toStdString();
-    const std::string gap = gap_->text().toStdString();
-    const std::string dx = dx_->text().toStdString();
-    const std::string dy = dy_->text().toStdString();
-    const std::string da = da_->text().toStdString();
-    const std::string zmin = zmin_->text().toStdString();
-    const std::string zmax = zmax_->text().toStdString();
-    settings_ = Normalise({.dx = dx,
-                           .dy = dy,
-                           .da = da,
-                           .zmin = zmin,
-                           .zmax = zmax,
-                           .gapValue = gap,
-                           .w = width,
-                           .h = height,
-                           .depthByColor = byColor_->isChecked(),
-                           .scanPosition = scanMethod_->currentIndex(),
-                           .addMarkers = markers_->isChecked(),
-                           .useOpenBitmap = useBitmap_->isChecked()});
-  }
+  if (!restore_->isChecked()) settings_ = Normalise(Entry());
   QDialog::accept();
 }
 

@@ -5,8 +5,10 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <array>
 
 #include "engine/sirds_settings.h"
 
@@ -29,21 +31,19 @@ class TSettDialog : public QDialog {
   // Fills the controls from the record.
   void SetupWindow();
   void RestoreClicked(bool checked);
+  SirdsSettingsEntry Entry() const;
+  // Tells what OK makes of the numbers that it does not take as they were typed.
+  void TellReplacements();
 
   TSirdsSettings& settings_;
-  QLineEdit* width_;
-  QLineEdit* height_;
-  QLineEdit* gap_;
-  QLineEdit* dx_;
-  QLineEdit* dy_;
-  QLineEdit* da_;
-  QLineEdit* zmin_;
-  QLineEdit* zmax_;
+  std::array<QLineEdit*, 8> numbers_;  // as kNumbers
+  QLabel* note_;
   QCheckBox* markers_;
   QCheckBox* useBitmap_;
   QRadioButton* byColor_;
   QRadioButton* byBrightness_;
   QComboBox* scanMethod_;
+  QCheckBox* fitRange_;
   QCheckBox* restore_;
 };
 

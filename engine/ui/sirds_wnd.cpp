@@ -3,41 +3,40 @@
 #include <QPointer>
 #include <utility>
 
-#include "engine/generation.h"
-#include "engine/ui/figure_caption.h"
+#include "documents/ui/commands.h"
+#include "documents/ui/notice_bar.h"
+#include "engine/ui/depth_range_hint.h"
 #include "engine/ui/frame_monitor.h"
 #include "engine/ui/screen_wnd.h"
-#include "figures/sirdmath.h"
 #include "platform/ui/message_box.h"
 #include "platform/ui/private_message.h"
 #include "platform/ui/resource_pictures.h"
+#include "platform/ui/text.h"
 
 namespace plenovia {
 
 namespace {
 
-constexpr int kFullScreen = 112;
-
 // Shows the busy cursor in a window for as long as it lives, or the window does.
-class BusyCursor {
+class BusyWindow {
  public:
-  using SetCursor = std::function<void(int)>;
-  BusyCursor(QWidget* window, SetCursor set) : window_(window), set_(std::move(set)) {
-    set_(kBusyCursor);
-  }
-  BusyCursor(const BusyCursor&) = delete;
-  BusyCursor& operator=(const BusyCursor&) = delete;
-  ~BusyCursor() {
-    if (window_) set_(kNormalCursor);
+  explicit BusyWindow(Document& window) : window_(&window) { window.ShowBusy(true); }
+  BusyWindow(const BusyWindow&) = delete;
+  BusyWindow& operator=(const BusyWindow&) = delete;
+  ~BusyWindow() {
+    if (window_) window_->ShowBusy(false);
   }
 
  private:
-  QPointer<QWidget> window_;
-  SetCursor set_;
+  QPointer<Document> window_;
 };
 
-Result<void> NoPattern() {
-  return Failure(ErrorCode::kInvalid, "There is no pattern to use.");
+tl::unexpected<Error> NoPattern() {
+  return Failure(
+      ErrorCode::kInvalid,
+      TSirdsWnd::tr("There is no pattern that can be read. Open a picture and press Add in "
+                    "SIRDS Patterns, or install the program again.")
+          .toStdString());
 }
 
 }  // namespace
@@ -52,78 +51,124 @@ std::shared_ptr<const IndexedImage> TSirdsWnd::CurrentPattern() {
   return patterns_ != nullptr ? patterns_->GetCurrentBitmap() : nullptr;
 }
 
-Result<TSirdResult> TSirdsWnd::MakeSirdFromBitmap() {
-  const auto source = Picture();
-  const auto pattern = CurrentPattern();
-  if (!source) return Failure(ErrorCode::kInvalid, "There is no picture in the window.");
-  if (!pattern) return tl::unexpected(NoPattern().error());
-  const BusyCursor busy(this, [this](int id) { SetCursorId(id); });
-  const TSirdsSettings settings = *settings_;
-  TSirdResult result;
-  result.title = GetTitle() + QStringLiteral("{sird}");
-  FrameMonitor monitor(Frame());
-  monitor.BeepOnStop();
-  auto made = plenovia::MakeSirdFromBitmap(*source, Zoom(), {*pattern, settings, monitor});
-  if (!made) return tl::unexpected(made.error());
-  result.bitmap = std::make_shared<const IndexedImage>(std::move(*made));
-  return result;
-}
-
-Result<void> TSirdsWnd::MakeSirdFromDepthMap(const LevelGrid& map) {
-  const QPointer<TSirdsWnd> self(this);
-  const auto pattern = CurrentPattern();
-  if (!pattern) return Finish(tl::unexpected(NoPattern().error()));
-  const BusyCursor busy(this, [this](int id) { SetCursorId(id); });
-  const TSirdsSettings settings = *settings_;
-  FrameMonitor monitor(Frame());
-  monitor.UpdateStatusAtStart();
-  auto made = plenovia::MakeSirdFromDepthMap(map, {*pattern, settings, monitor});
-  if (!self) return Failure(ErrorCode::kCancelled, "The window was closed.");
-  return Finish(std::move(made));
+Result<void> TSirdsWnd::MakeSirdFromDepthMap(std::shared_ptr<const LevelGrid> map) {
+  auto pattern = CurrentPattern();
+  return Draw(RunFromMap(std::move(map), std::move(pattern), *settings_));
 }
 
 Result<void> TSirdsWnd::MakeSirdFromFigure(std::int32_t code) {
-  const QPointer<TSirdsWnd> self(this);
-  const auto pattern = CurrentPattern();
-  if (!pattern) return Finish(tl::unexpected(NoPattern().error()));
-  const BusyCursor busy(this, [this](int id) { SetCursorId(id); });
-  const TSirdsSettings settings = *settings_;
-  const auto background = settings.useBmp != 0 ? Picture() : nullptr;
-  FigureRun run;
-  run.level = &_GetFigureLevel;
-  run.code = code;
-  run.background = background.get();
-  run.caption = [title = GetTitle()](IndexedImage& picture) { DrawFigureCaption(picture, title); };
-  FrameMonitor monitor(Frame());
-  monitor.UpdateStatusAtStart();
-  auto made = plenovia::MakeSirdFromFigure(run, {*pattern, settings, monitor});
-  if (!self) return Failure(ErrorCode::kCancelled, "The window was closed.");
-  return Finish(std::move(made));
+  auto pattern = CurrentPattern();
+  return Draw(RunFromFigure(code, settings_->useBmp != 0 ? Picture() : nullptr, GetTitle(),
+                            std::move(pattern), *settings_));
 }
 
-Result<void> TSirdsWnd::Finish(Result<IndexedImage> made) {
+Result<void> TSirdsWnd::Draw(const SirdRun& run, WhenStopped whenStopped) {
+  const QPointer<TSirdsWnd> self(this);
+  if (!run.pattern) {
+    if (!Picture()) DropAndClose();
+    return NoPattern();
+  }
+  const BusyWindow busy(*this);
+  // A run that began later, inside this one, may have drawn the window or closed it.
+  const auto isOver = [&self, drawings = drawings_] {
+    return !self || self->isHidden() || self->drawings_ != drawings;
+  };
+  FrameMonitor monitor(Frame());
+  monitor.UpdateStatusAtStart();
+  monitor.EndWhen(isOver);
+  auto made = run.Make(monitor);
+  if (isOver()) return Failure(ErrorCode::kCancelled, "The run is over.");
   if (!made) {
-    // A picture that was here before is given up only when the user stopped the run.
-    if (made.error().code == ErrorCode::kCancelled || !Picture()) DropAndClose();
+    const bool failed = made.error().code != ErrorCode::kCancelled;
+    const bool stopped = monitor.IsStopped() && whenStopped == WhenStopped::kCloses;
+    if (stopped || (failed && !Picture())) DropAndClose();
     return tl::unexpected(made.error());
   }
+  ++drawings_;
+  if (!Picture()) isStereogram_ = true;
   SetSaved(false);
+  HideNotice();
   SetImage(std::make_shared<const IndexedImage>(std::move(*made)));
+  TellFittedRange(run);
   return {};
 }
 
+void TSirdsWnd::TellFittedRange(const SirdRun& run) {
+  if (!run.range.fitted) return;
+  const NoticeAction asSet{tr("Use the range as set"), [this, run] { MakeWithRangeAsSet(run); }};
+  const NoticeAction noMore{
+      tr("Do not fit again"), [this, asSet] {
+        SendPrivateMessage(Frame(), PrivateMessage(WM_USERANGEASSET));
+        ShowNotice({tr("From now on the range is used as set. \"Fit the depth range\" in SIRDS "
+                       "Settings changes that."),
+                    {asSet}});
+      }};
+  ShowNotice(
+      {FittedRangeText(run.range, run.settings), {asSet, noMore}, ToQString(run.range.notice)});
+}
+
+void TSirdsWnd::MakeWithRangeAsSet(const SirdRun& run) {
+  const auto fitted = std::make_shared<const SirdRun>(run);  // the notice and what it keeps go
+  const QPointer<TSirdsWnd> self(this);
+  const QPointer<QWidget> owner = window();
+  const int drawings = drawings_;
+  HideNotice();
+  const auto made = Draw(fitted->WithRangeAsSet(), WhenStopped::kStays);
+  if (made) return;
+  if (self && drawings_ == drawings) TellFittedRange(*fitted);
+  if (owner) ShowFailure(owner, made.error());
+}
+
 void TSirdsWnd::DropAndClose() {
+  ++drawings_;
   SetImage(nullptr);
   SetSaved(true);
   QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
 bool TSirdsWnd::HandlesCommand(int command) const {
-  return command == kFullScreen;
+  return command == kCmFullScreen || (IsFigureCommand(command) && settings_->useBmp != 0) ||
+         TPictureWnd::HandlesCommand(command);
+}
+
+bool TSirdsWnd::CommandEnabled(int command) const {
+  return TPictureWnd::HandlesCommand(command) ? TPictureWnd::CommandEnabled(command)
+                                              : HandlesCommand(command);
 }
 
 void TSirdsWnd::RunCommand(int command) {
-  if (command == kFullScreen) (new TScreenWnd(window(), Picture()))->showFullScreen();
+  if (command == kCmFullScreen) {
+    (new TScreenWnd(window(), Picture()))->showFullScreen();
+  } else if (IsFigureCommand(command)) {
+    QWidget* owner = window();
+    const auto made = MakeSirdFromFigure(-(command - kCmFirstFigure + 1));
+    if (!made) ShowFailure(owner, made.error());
+  } else {
+    TPictureWnd::RunCommand(command);
+  }
+}
+
+Result<TSirdResult> MakeSirdFromBitmap(Document& source, const TSirdPatt* patterns,
+                                       const TSirdsSettings& settings) {
+  const DocumentDepth depth = source.Depth();
+  const auto pattern = patterns != nullptr ? patterns->GetCurrentBitmap() : nullptr;
+  if (!depth.picture) {
+    return Failure(ErrorCode::kInvalid,
+                   TSirdsWnd::tr("There is no picture in the window.").toStdString());
+  }
+  if (!pattern) return NoPattern();
+  const QPointer<Document> window(&source);
+  const BusyWindow busy(source);
+  TSirdResult result;
+  result.run = RunFromPicture(depth.picture, depth.zoom, pattern, settings);
+  result.title = source.GetTitle() + QStringLiteral("{sird}");
+  FrameMonitor monitor(source.Frame());
+  monitor.BeepOnStop();
+  monitor.EndWhen([&window] { return !window || window->isHidden(); });
+  auto made = result.run.Make(monitor);
+  if (!made) return tl::unexpected(made.error());
+  result.bitmap = std::make_shared<const IndexedImage>(std::move(*made));
+  return result;
 }
 
 }  // namespace plenovia

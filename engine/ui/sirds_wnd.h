@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "engine/sirds_settings.h"
+#include "engine/ui/sird_run.h"
 #include "images/sird_patt.h"
 #include "images/ui/picture_wnd.h"
 #include "platform/level_grid.h"
@@ -16,6 +17,7 @@ namespace plenovia {
 struct TSirdResult {
   std::shared_ptr<const IndexedImage> bitmap;  // none when the run was stopped
   QString title;
+  SirdRun run;  // that made it
 };
 
 class TSirdsWnd : public TPictureWnd {
@@ -27,38 +29,48 @@ class TSirdsWnd : public TPictureWnd {
             std::shared_ptr<const IndexedImage> picture, const QSize& size,
             const TSirdsSettings* settings);
 
-  bool IsStereogram() const { return isStereogram_; }
+  bool IsStereogram() const override { return isStereogram_; }
   void SetIsStereogram(bool is) { isStereogram_ = is; }
-  // The frame's library, which it hands out on WM_NEEDPATTERNS. Borrowed.
-  void SetPatternLibrary(const TSirdPatt* patterns) { patterns_ = patterns; }
+  void SetPatternLibrary(const TSirdPatt* patterns) override { patterns_ = patterns; }
   void SetSettings(const TSirdsSettings* settings) { settings_ = settings; }
 
-  // The generation runs. They report to the frame with WM_PROGRESS and handle events while they
-  // work, so any window may be closed before they return, this one too. kCancelled when a run was
-  // stopped; other errors have a sentence for the user.
+  // The generation runs that draw in this window. They report to the frame with WM_PROGRESS and
+  // handle events while they work, so any window may be closed before they return, this one too.
+  // A run ends early, with kCancelled, by "Stop Current Process", which drops the window's picture
+  // and closes it; when the frame or this window closes; and when a later run has drawn here. Other
+  // errors have a sentence for the user; they close a window that is empty.
 
-  // Makes a stereogram from this window's picture and leaves the window as it is.
-  [[nodiscard]] Result<TSirdResult> MakeSirdFromBitmap();
-  // Makes the stereogram of a depth map in this window. When it cannot, the window closes. `map`
-  // has to stay for the whole run, in which any other window may be closed.
-  [[nodiscard]] Result<void> MakeSirdFromDepthMap(const LevelGrid& map);
-  // Makes the stereogram of a mathematical figure in this window, over its picture when it has one
-  // and the settings ask for that. `code` is below 0: -(number of the figure + 1). When the run is
-  // stopped, or cannot be made and there was no picture, the window closes.
+  // The stereogram of a depth map.
+  [[nodiscard]] Result<void> MakeSirdFromDepthMap(std::shared_ptr<const LevelGrid> map);
+  // The stereogram of a mathematical figure, over the window's picture when it has one and the
+  // settings ask for that. `code` is below 0: -(number of the figure + 1).
   [[nodiscard]] Result<void> MakeSirdFromFigure(std::int32_t code);
 
+  // When the range of the run that made the picture was fitted, a notice says so. It keeps the run
+  // and offers to make it again, in this window, with the range as set.
+  void TellFittedRange(const SirdRun& run);
+
+  // Takes the commands of the figures too, when the settings want them over an open picture.
   bool HandlesCommand(int command) const override;
+  bool CommandEnabled(int command) const override;
   void RunCommand(int command) override;
-  bool NeedsSaving() const override { return !IsSaved() && Picture(); }
 
  private:
   std::shared_ptr<const IndexedImage> CurrentPattern();
-  Result<void> Finish(Result<IndexedImage> made);
+  enum class WhenStopped { kCloses, kStays };
+  Result<void> Draw(const SirdRun& run, WhenStopped whenStopped = WhenStopped::kCloses);
+  void MakeWithRangeAsSet(const SirdRun& run);
   void DropAndClose();
 
   const TSirdsSettings* settings_;
   const TSirdPatt* patterns_ = nullptr;
   bool isStereogram_ = false;
+  int drawings_ = 0;  // runs that have drawn here, or closed the window
 };
+
+// Makes a stereogram from the picture of `source` and leaves that window as it is. It may be closed
+// before this returns, which ends the run. Errors as of the runs above.
+[[nodiscard]] Result<TSirdResult> MakeSirdFromBitmap(Document& source, const TSirdPatt* patterns,
+                                                     const TSirdsSettings& settings);
 
 }  // namespace plenovia

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "codec/gif.h"
 #include "images/pattern_files.h"
 #include "platform/file_io.h"
 #include "testing/picture_compare.h"
@@ -37,17 +38,13 @@ TEST(CutPattern, TakesTheTopLeftCornerAndRepeatsWhatIsSmaller) {
 
 class AddPatterns : public testing::Test {
  protected:
-  // The library of a folder in which the files 0..count-1 lie but the one that is missing.
-  void Make(int count, int missing = -1) {
-    Random random(1);
-    fs::create_directories(shipped_);
-    TSirdPatt maker(shipped_);
-    for (int n = 0; n < count; ++n) {
-      ASSERT_TRUE(AddPattern(maker, RandomPicture(random, n + 1, n + 1, 16), user_));
+  AddPatterns() {
+    fs::create_directories(folders_.program);
+    for (int n = 0; n < kShippedPatterns; ++n) {
+      const auto encoded = EncodeGif(RandomPicture(random_, n + 1, n + 1, 16));
+      EXPECT_TRUE(WriteFile(folders_.program / PatternFileName(n), encoded->pieces()));
     }
-    fs::remove(shipped_ / PatternFileName(missing));
   }
-  TSirdPatt Load(int start, int count) { return LoadPatterns(shipped_, user_, start, count); }
   // The picture of the last pattern, as the colours of the picture that it was cut from.
   static testing::AssertionResult LastIs(TSirdPatt& library, const IndexedImage& picture) {
     library.SelectPattern(library.GetCount() - 1);
@@ -57,66 +54,70 @@ class AddPatterns : public testing::Test {
   TempFolder folder_;
   Random random_{3};
   const IndexedImage picture_ = RandomPicture(random_, 140, 120, 256);
-  fs::path shipped_ = folder_ / "shipped";
-  const fs::path user_ = folder_ / "data" / "sirdspat";
+  PatternFolders folders_{folder_ / "shipped", folder_ / "data" / "sirdspat"};
 };
 
-TEST_F(AddPatterns, TakesTheNextNumberAndIsThereAtTheNextStart) {
-  Make(20);
-  TSirdPatt library = Load(4, 20);
-  ASSERT_TRUE(AddPattern(library, picture_, user_));
-  EXPECT_TRUE(fs::exists(shipped_ / "pat20.gif"));
-  EXPECT_FALSE(fs::exists(user_));
+TEST_F(AddPatterns, TakeTheNextNumberAndAreThereAtTheNextStart) {
+  TSirdPatt library = LoadPatterns(folders_, 4);
+  ASSERT_TRUE(AddPattern(library, picture_));
+  EXPECT_TRUE(fs::exists(folders_.program / "pat20.gif"));
+  EXPECT_FALSE(fs::exists(folders_.user));
   EXPECT_EQ(library.GetCount(), 21);
   EXPECT_EQ(library.GetCurrentIndex(), 4);
   EXPECT_TRUE(LastIs(library, picture_));
 
-  TSirdPatt again = Load(20, library.GetCount());
+  TSirdPatt again = LoadPatterns(folders_, library.GetCurrentNumber());
   EXPECT_EQ(again.GetCurrentIndex(), 20);
   EXPECT_TRUE(LastIs(again, picture_));
 }
 
-TEST_F(AddPatterns, NeverReplacesAFile) {
-  Make(20, 3);
+TEST_F(AddPatterns, NeverReplaceAFileAndKeepTheirNumbers) {
+  const fs::path shipped = folders_.program;
+  for (const int missing : {0, 3, 19}) fs::remove(shipped / PatternFileName(missing));
   const std::vector<std::uint8_t> damaged{'n', 'o'};
-  ASSERT_TRUE(WriteFile(shipped_ / "pat05.gif", damaged));
-  fs::create_symlink("nowhere", shipped_ / "pat20.gif");
-  TSirdPatt library = Load(0, 20);
-  ASSERT_EQ(library.GetCount(), 18);
-  ASSERT_TRUE(AddPattern(library, picture_, user_));
-  ASSERT_TRUE(AddPattern(library, picture_, user_));
-  EXPECT_TRUE(fs::exists(shipped_ / "pat03.gif"));
-  EXPECT_TRUE(fs::is_symlink(shipped_ / "pat20.gif"));
-  EXPECT_TRUE(fs::exists(shipped_ / "pat21.gif"));
-  EXPECT_EQ(ReadFile(shipped_ / "pat05.gif")->size(), damaged.size());
+  ASSERT_TRUE(WriteFile(shipped / "pat05.gif", damaged));
+  fs::create_symlink("nowhere", shipped / "pat20.gif");
+  TSirdPatt library = LoadPatterns(folders_, 0);
+  ASSERT_EQ(library.GetCount(), 16);
+  ASSERT_TRUE(AddPattern(library, RandomPicture(random_, 5, 5, 9)));
+  ASSERT_TRUE(AddPattern(library, picture_));
+  EXPECT_TRUE(fs::is_symlink(shipped / "pat20.gif"));
+  EXPECT_TRUE(fs::exists(shipped / "pat21.gif"));
+  EXPECT_EQ(ReadFile(shipped / "pat05.gif")->size(), damaged.size());
+
+  library.SelectPattern(17);
+  EXPECT_EQ(library.GetCurrentNumber(), 22);
+  fs::remove(shipped / "pat07.gif");
+  TSirdPatt again = LoadPatterns(folders_, library.GetCurrentNumber());
+  EXPECT_EQ(again.GetCurrentNumber(), 22);
+  EXPECT_TRUE(LastIs(again, picture_));
 }
 
-TEST_F(AddPatterns, GoToTheUsersFolderWhereTheProgramsCannotBeWritten) {
-  Make(21);
-  TSirdPatt library = Load(0, 21);
+TEST_F(AddPatterns, GoToTheUsersFolderWhereTheProgramsTakesNone) {
+  TSirdPatt library = LoadPatterns(folders_, 0);
   // A folder that is gone stands for one that may not be written: tests may run as root.
-  fs::rename(shipped_, folder_ / "elsewhere");
-  ASSERT_TRUE(AddPattern(library, picture_, user_));
-  ASSERT_TRUE(AddPattern(library, RandomPicture(random_, 5, 5, 9), user_));
-  EXPECT_EQ(library.GetCount(), 23);
-  fs::rename(folder_ / "elsewhere", shipped_);
+  fs::rename(folders_.program, folder_ / "elsewhere");
+  ASSERT_TRUE(AddPattern(library, picture_));
+  fs::rename(folder_ / "elsewhere", folders_.program);
 
-  // They come after the program's own, and the selection outlasts a restart.
-  const TSirdPatt again = Load(22, library.GetCount());
-  EXPECT_EQ(again.GetCount(), 23);
-  EXPECT_EQ(again.GetCurrentIndex(), 22);
-  EXPECT_EQ(*again.GetCurrentBitmap(), (library.SelectPattern(22), *library.GetCurrentBitmap()));
-  EXPECT_EQ(Load(21, 20).GetCurrentIndex(), 21) << "without a settings file";
+  folders_.programTakesNew = false;
+  TSirdPatt ofSourceTree = LoadPatterns(folders_, 20);
+  EXPECT_EQ(ofSourceTree.GetCurrentNumber(), 20);
+  ASSERT_TRUE(AddPattern(ofSourceTree, picture_));
+  EXPECT_TRUE(fs::exists(folders_.user / "pat21.gif"));
+  EXPECT_EQ(LoadPatterns(folders_, 21).GetCurrentIndex(), 21);
 }
 
 TEST_F(AddPatterns, FailWithoutAnyFolder) {
   ASSERT_TRUE(WriteFile(folder_ / "data", std::vector<std::uint8_t>{1}));
-  TSirdPatt library(folder_ / "nowhere");
-  EXPECT_FALSE(AddPattern(library, picture_, user_));
-  EXPECT_FALSE(AddPattern(library, picture_, {}));
-  EXPECT_FALSE(AddPattern(library, IndexedImage(), folder_.path()));
-  EXPECT_EQ(library.GetCount(), 0);
-  EXPECT_EQ(folder_.Count(), 1);
+  TSirdPatt library({folder_ / "nowhere", folders_.user});
+  EXPECT_FALSE(AddPattern(library, picture_));
+  TSirdPatt homeless({folder_ / "nowhere", {}});
+  EXPECT_FALSE(AddPattern(homeless, picture_));
+  TSirdPatt able(folders_);
+  EXPECT_FALSE(AddPattern(able, IndexedImage()));
+  EXPECT_EQ(library.GetCount() + homeless.GetCount() + able.GetCount(), 0);
+  EXPECT_EQ(folder_.Count(), 2);
 }
 
 }  // namespace

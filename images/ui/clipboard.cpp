@@ -1,18 +1,68 @@
 #include "images/ui/clipboard.h"
 
-#include <QByteArray>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QMimeData>
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <utility>
 
-#include "codec/bmp.h"
+#include "codec/graph_io.h"
 #include "images/ui/picture_from_image.h"
 #include "platform/ui/picture_painting.h"
 
 namespace plenovia {
+
+namespace {
+
+constexpr char kBmp[] = "image/bmp";
+constexpr char kPng[] = "image/png";
+
+// Whether another program has to be asked for what is on the clipboard. Elsewhere than on X the
+// formats come with the news that it changed.
+bool MustBeAsked() {
+  return XSelectionRequest::IsXDisplay() && !QGuiApplication::clipboard()->ownsClipboard();
+}
+
+// The one of these formats in which a picture is best read; empty when none can be.
+QByteArray BestFormat(const QList<QByteArray>& offered) {
+  for (const QByteArray& format :
+       QList<QByteArray>{kPng, kBmp} + QImageReader::supportedMimeTypes()) {
+    if (offered.contains(format)) return format;
+  }
+  return {};
+}
+
+tl::unexpected<Error> NoAnswer() {
+  return Failure(ErrorCode::kIo, "The program that owns the clipboard does not answer.");
+}
+
+Result<IndexedImage> PictureFrom(const QImage& image) {
+  if (image.isNull()) {
+    return Failure(ErrorCode::kCorrupt, "The picture on the clipboard cannot be read.");
+  }
+  return PictureFromImage(image);
+}
+
+Result<IndexedImage> PictureFrom(const QByteArray& format, const QByteArray& bytes) {
+  if (format != kBmp) return PictureFrom(QImage::fromData(bytes));
+  // Qt's reader would fill up a file that ends too early with whatever is in memory.
+  return DecodePicture({reinterpret_cast<const std::uint8_t*>(bytes.constData()),
+                        static_cast<std::size_t>(bytes.size())});
+}
+
+Result<IndexedImage> PictureFrom(const QMimeData& data) {
+  const auto bmp = QString::fromLatin1(kBmp);
+  if (data.hasFormat(bmp) && !data.hasFormat(QString::fromLatin1(kPng))) {
+    return PictureFrom(kBmp, data.data(bmp));
+  }
+  return PictureFrom(qvariant_cast<QImage>(data.imageData()));
+}
+
+}  // namespace
 
 void CopyToClipboard(const IndexedImage& picture) {
   if (picture.empty()) return;
@@ -28,28 +78,45 @@ void CopyToClipboard(const QImage& image) {
   if (!image.isNull()) QGuiApplication::clipboard()->setImage(image);
 }
 
-bool ClipboardHasPicture() {
-  const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-  return data != nullptr && data->hasImage();
+ClipboardPictures::ClipboardPictures(QObject* parent) : QObject(parent) {
+  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &ClipboardPictures::Look);
+  Look();
 }
 
-Result<IndexedImage> PictureFromClipboard() {
-  if (!ClipboardHasPicture()) {
-    return Failure(ErrorCode::kInvalid, "there is no picture on the clipboard");
+void ClipboardPictures::Look() {
+  formatsRequest_.reset();
+  if (!MustBeAsked()) {
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    SetHasPicture(data != nullptr && data->hasImage());
+    return;
   }
-  const QMimeData& data = *QGuiApplication::clipboard()->mimeData();
-  const QString bmp = QStringLiteral("image/bmp");
-  if (data.hasFormat(bmp) && !data.hasFormat(QStringLiteral("image/png"))) {
-    // Qt's reader would fill up a file that ends too early with whatever is in memory.
-    const QByteArray bytes = data.data(bmp);
-    return DecodeBmp({reinterpret_cast<const std::uint8_t*>(bytes.constData()),
-                      static_cast<std::size_t>(bytes.size())});
+  SetHasPicture(false);
+  formatsRequest_ = std::make_unique<XSelectionRequest>(
+      "TARGETS", std::chrono::milliseconds(0), [this](const std::optional<QByteArray>& targets) {
+        formatsRequest_.reset();
+        format_ =
+            BestFormat(targets ? XSelectionRequest::FormatNames(*targets) : QList<QByteArray>());
+        SetHasPicture(!format_.isEmpty());
+      });
+}
+
+void ClipboardPictures::SetHasPicture(bool has) {
+  hasPicture_ = has;
+  Q_EMIT Changed();
+}
+
+void ClipboardPictures::ReadPicture(Take take, std::chrono::milliseconds patience) {
+  if (formatsRequest_) return take(NoAnswer());
+  if (!hasPicture_) {
+    return take(Failure(ErrorCode::kInvalid, "There is no picture on the clipboard."));
   }
-  const auto image = qvariant_cast<QImage>(data.imageData());
-  if (image.isNull()) {
-    return Failure(ErrorCode::kCorrupt, "the picture on the clipboard cannot be read");
-  }
-  return PictureFromImage(image);
+  if (!MustBeAsked()) return take(PictureFrom(*QGuiApplication::clipboard()->mimeData()));
+  pictureRequest_ = std::make_unique<XSelectionRequest>(
+      format_, patience,
+      [this, format = format_, take = std::move(take)](const std::optional<QByteArray>& bytes) {
+        pictureRequest_.reset();
+        take(bytes ? PictureFrom(format, *bytes) : NoAnswer());
+      });
 }
 
 }  // namespace plenovia

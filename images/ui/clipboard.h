@@ -1,10 +1,17 @@
 // Pictures to and from other programs through the clipboard.
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
+#include <QList>
+#include <QObject>
+#include <chrono>
+#include <functional>
+#include <memory>
 
 #include "platform/indexed_image.h"
 #include "platform/result.h"
+#include "platform/ui/x_selection_request.h"
 
 namespace plenovia {
 
@@ -13,11 +20,35 @@ namespace plenovia {
 void CopyToClipboard(const IndexedImage& picture);
 void CopyToClipboard(const QImage& image);
 
-// Whether there is something that may be read as a picture.
-bool ClipboardHasPicture();
+// What is on the clipboard. Looks when the clipboard changes, not when it is asked, and never waits
+// for the program that owns it.
+class ClipboardPictures : public QObject {
+  Q_OBJECT
 
-// The picture on the clipboard, as PictureFromImage() makes it. Fails when there is none, when its
-// bytes are no picture, and when it is too large.
-[[nodiscard]] Result<IndexedImage> PictureFromClipboard();
+ public:
+  using Take = std::function<void(Result<IndexedImage>)>;
+
+  explicit ClipboardPictures(QObject* parent = nullptr);
+
+  // Whether there is something that may be read as a picture, as far as is known.
+  bool HasPicture() const { return hasPicture_; }
+  // Hands over the picture, as PictureFromImage() makes it, at once or when its owner has sent it;
+  // an error when there is none, when its bytes are no picture, when it is too large, and when the
+  // owner is silent for `patience`. A later call takes the place of one that still waits.
+  void ReadPicture(Take take, std::chrono::milliseconds patience = std::chrono::seconds(5));
+
+ Q_SIGNALS:
+  // HasPicture() may have changed.
+  void Changed();
+
+ private:
+  void Look();
+  void SetHasPicture(bool has);
+
+  bool hasPicture_ = false;
+  QByteArray format_;  // in which another program is asked for its picture
+  std::unique_ptr<XSelectionRequest> formatsRequest_;
+  std::unique_ptr<XSelectionRequest> pictureRequest_;
+};
 
 }  // namespace plenovia

@@ -5,8 +5,11 @@
 #include <QFontMetrics>
 #include <QPaintDevice>
 #include <QRect>
+#include <QStyle>
 
+#include "documents/ui/commands.h"
 #include "images/color_table.h"
+#include "images/ui/clipboard.h"
 #include "platform/ui/private_message.h"
 #include "platform/ui/resource_pictures.h"
 
@@ -55,9 +58,23 @@ TColorWnd::TColorWnd(QMdiArea* client, const QString& title, QWidget* frame)
 void TColorWnd::SetSource(const Palette& palette) {
   palette_ = palette;
   if (isMinimized()) showNormal();
-  if (!isMaximized()) setGeometry(0, 0, kWindowWidth, ColourTableWindowHeight(palette_));
+  if (!isMaximized()) {
+    const int height = ColourTableWindowHeight(palette_);
+    const bool scrolls = parentWidget()->isVisible() && height > parentWidget()->height();
+    const int bar = scrolls ? style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) : 0;
+    move(0, 0);
+    SetOuterSize({kWindowWidth + bar, height});
+  }
   UpdateScrolling();
   InvalidateAll();
+}
+
+bool TColorWnd::HandlesCommand(int command) const {
+  return command == kCmCopy;
+}
+
+void TColorWnd::RunCommand(int command) {
+  if (command == kCmCopy) CopyToClipboard(MakeBitmap());
 }
 
 void TColorWnd::UpdateScrolling() {
@@ -79,7 +96,8 @@ void TColorWnd::DrawGrid(QPainter& painter, qreal scale) const {
   }
 }
 
-void TColorWnd::Paint(QPainter& painter, const QRect&) {
+void TColorWnd::Paint(QPainter& painter, const QRect& exposed) {
+  painter.fillRect(exposed, Ground());
   painter.translate(-ScrollPosition());
   DrawGrid(painter, devicePixelRatioF());
 }

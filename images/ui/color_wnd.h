@@ -4,7 +4,7 @@
 #include <QImage>
 #include <QString>
 
-#include "depthmap/ui/mouse_wnd.h"
+#include "documents/ui/mouse_wnd.h"
 #include "platform/palette.h"
 
 namespace plenovia {
@@ -22,6 +22,11 @@ class TColorWnd : public TMouseWnd {
   // Shows these colours and moves the window to the top left corner, in the size that fits them.
   void SetSource(const Palette& palette);
   const Palette& Source() const { return palette_; }
+
+  bool HandlesCommand(int command) const override;
+  // "Copy" puts MakeBitmap() on the clipboard.
+  void RunCommand(int command) override;
+  DocumentStatus Status() const override { return {std::nullopt, QString()}; }
 
   // The whole grid as a picture, in the same size on every display.
   QImage MakeBitmap() const;

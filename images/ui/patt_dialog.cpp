@@ -1,5 +1,6 @@
 #include "images/ui/patt_dialog.h"
 
+#include <QCoreApplication>
 #include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -51,9 +52,11 @@ TPattDialog::TPattDialog(QWidget* frame, TSirdPatt& library, bool addingAllowed)
 }
 
 void TPattDialog::Add() {
-  if (SendPrivateMessage(frame_, PrivateMessage(WM_ADDPATTERN, library_.GetCount())) == 0) {
-    ShowMessage(this, tr("Unable to add the pattern."), tr("Add Pattern"),
-                MessageIcon::kExclamation);
+  PrivateMessage message(WM_ADDPATTERN, library_.GetCount());
+  QCoreApplication::sendEvent(frame_, &message);
+  if (message.result() == 0) {
+    const QString text = tr("Unable to add the pattern.") + u'\r' + message.reason();
+    ShowMessage(this, text.trimmed(), tr("Add Pattern"), MessageIcon::kExclamation);
     return;
   }
   browser_->Show(library_.GetCount() - 1);

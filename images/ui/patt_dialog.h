@@ -10,7 +10,7 @@ namespace plenovia {
 
 // OK leaves the shown pattern current, Cancel the one that was current before. "Add" asks the frame
 // by WM_ADDPATTERN, with the number of patterns, to append one to the library; it stays there in
-// either case.
+// either case. A frame that cannot gives the reason with its answer.
 class TPattDialog : public QDialog {
   Q_OBJECT
 

@@ -20,7 +20,10 @@ class PattWizDlg : public WizardDlg {
   int Shown() const { return browser_->Shown(); }
 
  protected:
-  void OnNext() override { browser_->RestoreOpening(); }
+  bool OnNext() override {
+    browser_->RestoreOpening();
+    return true;
+  }
   void OnBack() override { browser_->RestoreOpening(); }
 
  private:

@@ -59,7 +59,7 @@ void PatternBrowser::Prev() {
 
 void PatternBrowser::Refresh() {
   sample_->SetPattern(library_.GetCurrentBitmap());
-  number_->setText(tr("Pattern No. %1").arg(library_.GetCurrentIndex() + 1));
+  number_->setText(tr("Pattern No. %1").arg(library_.GetCurrentNumber() + 1));
 }
 
 }  // namespace plenovia

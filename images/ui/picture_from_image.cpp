@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "codec/before_white.h"
+#include "codec/composite_over_white.h"
 #include "codec/reduce_rows.h"
 #include "platform/limits.h"
 
@@ -18,7 +18,7 @@ Rgb ToRgb(QRgb colour) {
   const Rgb opaque{static_cast<std::uint8_t>(qRed(colour)),
                    static_cast<std::uint8_t>(qGreen(colour)),
                    static_cast<std::uint8_t>(qBlue(colour))};
-  return BeforeWhite(opaque, qAlpha(colour));
+  return CompositeOverWhite(opaque, qAlpha(colour));
 }
 
 Palette ColoursOf(const QImage& image) {
@@ -69,7 +69,7 @@ Result<IndexedImage> PictureFromImage(QImage image) {
   }
   const QImage::Format format = FormatToRead(image);
   image = std::move(image).convertToFormat(format);
-  if (image.isNull()) return Failure(ErrorCode::kTooLarge, "there is not enough memory");
+  if (image.isNull()) return Failure(ErrorCode::kTooLarge, "There is not enough memory.");
   return image.depth() == 8 ? CopyIndexes(image) : ReduceColours(image);
 }
 

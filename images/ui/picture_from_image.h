@@ -9,8 +9,8 @@
 namespace plenovia {
 
 // An image with a palette keeps its indexes and its colours in their order; a gray one gets 256
-// grays with index = gray; true colour is reduced to 256 colours (ColourReducer). Transparency is
-// seen before white. Fails with kInvalid for a null image and with kTooLarge.
+// grays with index = gray; true colour is reduced to 256 colours (ColourReducer). Transparent
+// colours are composited over white. Fails with kInvalid for a null image and with kTooLarge.
 [[nodiscard]] Result<IndexedImage> PictureFromImage(QImage image);
 
 }  // namespace plenovia

@@ -1,13 +1,18 @@
 #include "images/ui/picture_wnd.h"
 
+#include <QRegion>
 #include <algorithm>
 #include <utility>
 
+#include "codec/picture_format.h"
+#include "documents/ui/commands.h"
+#include "images/cut_picture.h"
 #include "images/gray_palette.h"
-#include "platform/ui/picture_painting.h"
+#include "images/ui/clipboard.h"
 #include "platform/ui/private_message.h"
 #include "platform/ui/resource_pictures.h"
 #include "platform/ui/text.h"
+#include "platform/vector_state.h"
 #include "platform/zoomed_picture.h"
 
 namespace plenovia {
@@ -29,8 +34,7 @@ TPictureWnd::TPictureWnd(QMdiArea* client, const QString& title, QWidget* frame,
 }
 
 void TPictureWnd::SetTitle(const QString& path) {
-  title_ = BaseNameTitle(path);
-  setWindowTitle(title_);
+  setWindowTitle(BaseNameTitle(path));
 }
 
 void TPictureWnd::SetSaved(bool saved) {
@@ -61,8 +65,11 @@ void TPictureWnd::ZoomOut() {
 }
 
 void TPictureWnd::SetZoom(double zoom) {
+  const auto middle = [this] { return QRectF({}, QSizeF(ClientSize())).center(); };
+  const QPointF place = (middle() - Corner()) / zoom_;
   zoom_ = zoom;
   UpdateScrolling();
+  ScrollTo((place * zoom_ - middle()).toPoint());
   Q_EMIT StateChanged();
 }
 
@@ -70,8 +77,10 @@ void TPictureWnd::MakeGray() {
   if (!picture_) return;
   auto gray = std::make_shared<IndexedImage>(*picture_);
   gray->SetPalette(GrayPalette(gray->palette()));
+  const bool changes = gray->palette() != picture_->palette();
   picture_ = std::move(gray);
   InvalidateAll();
+  if (changes) SetSaved(false);
 }
 
 BitmapInfo TPictureWnd::Description() const {
@@ -89,6 +98,58 @@ QRect TPictureWnd::Selection() const {
   return Tracking().IsEmpty() ? whole : Tracking().Normalised();
 }
 
+bool TPictureWnd::HandlesCommand(int command) const {
+  return command == kCmZoomIn || command == kCmZoomOut || command == kCmActualSize ||
+         command == kCmGrayImage || command == kCmCopy;
+}
+
+bool TPictureWnd::CommandEnabled(int command) const {
+  if (command == kCmZoomIn) return CanZoomIn();
+  if (command == kCmZoomOut) return CanZoomOut();
+  if (command == kCmActualSize) return zoom_ != 1.0;
+  return HandlesCommand(command);
+}
+
+void TPictureWnd::RunCommand(int command) {
+  if (command == kCmZoomIn) ZoomIn();
+  if (command == kCmZoomOut) ZoomOut();
+  if (command == kCmActualSize) ZoomToActualSize();
+  if (command == kCmGrayImage) MakeGray();
+  if (command == kCmCopy) CopySelection();
+}
+
+void TPictureWnd::CopySelection() const {
+  if (!picture_) return;
+  const QRect area = Selection();
+  const auto cut = CutPicture(
+      *picture_, {area.left(), area.top(), area.left() + area.width(), area.top() + area.height()});
+  if (cut) CopyToClipboard(*cut);
+}
+
+Result<void> TPictureWnd::Save(const QString& path) {
+  if (!picture_) return {};
+  TGraphIO codec;
+  codec.SetGraphicFormat(static_cast<int>(FormatOfPath(path.toStdString())));
+  ClearUpperVectorHalves();
+  Result<void> written = codec.Write_File(ToPath(path), *picture_);
+  SetSaved(written.has_value());
+  if (written) SetFile(path);
+  return written;
+}
+
+QString TPictureWnd::SavingText(const QString& path) const {
+  if (!picture_) return {};
+  // Formats without a name of their own are written as BMP files are.
+  GraphicFormat format = FormatOfPath(path.toStdString());
+  return tr("Writing %1 File").arg(ToQString(NameWhileWriting(format)));
+}
+
+DocumentStatus TPictureWnd::Status() const {
+  if (!picture_) return {QString(), QString()};
+  const BitmapInfo info = Description();
+  return PictureStatus(info.width, info.height, info.bitsPerPixel, ImageBytes());
+}
+
 QSize TPictureWnd::ZoomedSize() const {
   return {ZoomedSide(size_.width(), zoom_), ZoomedSide(size_.height(), zoom_)};
 }
@@ -96,8 +157,11 @@ QSize TPictureWnd::ZoomedSize() const {
 QPoint TPictureWnd::Corner() const {
   QPoint corner = -ScrollPosition();
   if (isMaximized()) {
-    const QSize room = (ClientSize() - ZoomedSize()) / 2;
-    corner += {std::max(0, room.width()), std::max(0, room.height())};
+    const auto centred = [this](int client, int side) {
+      return std::max(0, static_cast<int>(client / 2 - side * zoom_ * 0.5));
+    };
+    const QSize client = ClientSize();
+    corner += {centred(client.width(), size_.width()), centred(client.height(), size_.height())};
   }
   return corner;
 }
@@ -116,10 +180,14 @@ QRect TPictureWnd::SelectionFrame() const {
 }
 
 void TPictureWnd::Paint(QPainter& painter, const QRect& exposed) {
-  if (isMaximized()) painter.fillRect(exposed, Qt::black);
-  if (!picture_) return;
-  PaintPicture(painter, *picture_, zoom_, Corner(), exposed);
-  if (!Tracking().IsEmpty()) PaintSelection(painter);
+  QRect covered;
+  if (picture_) {
+    covered = shown_.Paint(painter, picture_, zoom_, Corner(), {{}, ClientSize()}, exposed);
+  }
+  for (const QRect& around : QRegion(exposed) - covered) {
+    painter.fillRect(around, isMaximized() ? QBrush(Qt::black) : Ground());
+  }
+  if (picture_ && !Tracking().IsEmpty()) PaintSelection(painter);
 }
 
 void TPictureWnd::PaintSelection(QPainter& painter) const {

@@ -8,8 +8,9 @@
 #include <memory>
 
 #include "codec/graph_io.h"
-#include "depthmap/ui/mouse_wnd.h"
+#include "documents/ui/mouse_wnd.h"
 #include "platform/indexed_image.h"
+#include "platform/ui/shown_picture.h"
 
 namespace plenovia {
 
@@ -26,19 +27,19 @@ class TPictureWnd : public TMouseWnd {
   TPictureWnd(QMdiArea* client, const QString& title, QWidget* frame,
               std::shared_ptr<const IndexedImage> picture, const QSize& size);
 
-  // The caption: the lower-cased file name of a path.
-  const QString& GetTitle() const { return title_; }
+  // The caption becomes the lower-cased file name of the path.
   void SetTitle(const QString& path);
-  bool IsSaved() const { return saved_; }
+  bool IsSaved() const override { return saved_; }
   void SetSaved(bool saved);
 
-  const std::shared_ptr<const IndexedImage>& Picture() const { return picture_; }
+  std::shared_ptr<const IndexedImage> Picture() const override { return picture_; }
   // Shows a picture and fits the window to it. Null drops the one that was shown.
   void SetImage(std::shared_ptr<const IndexedImage> picture);
   // Gives the window's inside the size of the picture at zoom 1.
   void FitToImage();
 
   double Zoom() const { return zoom_; }
+  void ZoomToActualSize() { SetZoom(1.0); }
   bool CanZoomIn() const { return zoom_ < 4.0; }
   bool CanZoomOut() const { return zoom_ > 0.25; }
   void ZoomIn();
@@ -53,6 +54,17 @@ class TPictureWnd : public TMouseWnd {
   // The selection in pixels of the picture, which it may reach out of; the whole picture without a
   // selection. Empty when there is no picture.
   QRect Selection() const;
+
+  bool HandlesCommand(int command) const override;
+  bool CommandEnabled(int command) const override;
+  void RunCommand(int command) override;
+  bool NeedsSaving() const override { return !IsSaved() && picture_; }
+  // In the format that the path names, BMP when it names none.
+  bool CanSave() const override { return picture_ != nullptr; }
+  Result<void> Save(const QString& path) override;
+  QString SavingText(const QString& path) const override;
+  DocumentStatus Status() const override;
+  DocumentDepth Depth() const override { return {picture_, zoom_, nullptr}; }
 
  protected:
   void Paint(QPainter& painter, const QRect& exposed) override;
@@ -72,9 +84,10 @@ class TPictureWnd : public TMouseWnd {
   void PaintSelection(QPainter& painter) const;
   void UpdateScrolling();
   void SetZoom(double zoom);
+  void CopySelection() const;
 
-  QString title_;
   std::shared_ptr<const IndexedImage> picture_;
+  ShownPicture shown_;
   QSize size_;
   bool saved_ = false;
   double zoom_ = 1.0;

@@ -1,8 +1,14 @@
 #include "images/ui/source_wiz_dlg.h"
 
+#include <QFile>
+#include <QFileInfo>
+
+#include "codec/picture_format.h"
 #include "images/ui/math_dlg.h"
 #include "platform/ui/dialog_controls.h"
 #include "platform/ui/file_dialogs.h"
+#include "platform/ui/message_box.h"
+#include "platform/ui/text.h"
 
 namespace plenovia {
 
@@ -57,9 +63,7 @@ std::optional<QString> SourceWizDlg::Ask(WizardSourceType type) {
   question.title = tr("Select File");
   switch (type) {
     case kBitmapSource:
-      question.filters =
-          tr("Bitmap Files (*.BMP)|*.bmp|PCX Files (*.PCX)|*.pcx|"
-             "GIF Files (*.GIF)|*.gif|All Pictures|*.bmp *.pcx *.gif *.jpg *.jpeg *.png|");
+      question.filters = ToQString(WizardFileTypes());
       question.preselected = kAllPictures;
       question.defaultExtension = QStringLiteral("bmp");
       return AskOpenFile(this, question);
@@ -80,9 +84,26 @@ std::optional<QString> SourceWizDlg::AskFigure() {
   return dialog.SelectedTitle();
 }
 
-void SourceWizDlg::OnNext() {
+QString SourceWizDlg::Obstacle(const QString& file) {
+  const QFileInfo info(file);
+  if (!info.exists()) return tr("There is no file \"%1\".").arg(file);
+  if (!info.isFile()) return tr("\"%1\" is not a file that can be read.").arg(file);
+  QFile opened(file);
+  if (opened.open(QIODevice::ReadOnly)) return {};
+  return tr("The file \"%1\" cannot be read: %2.").arg(file, opened.errorString());
+}
+
+bool SourceWizDlg::OnNext() {
+  const QString obstacle = source_.type == kFigureSource ? QString() : Obstacle(name_->text());
+  if (!obstacle.isEmpty()) {
+    ShowMessage(this, obstacle, windowTitle(), MessageIcon::kExclamation);
+    name_->setFocus();
+    name_->selectAll();
+    return false;
+  }
   source_.name = name_->text();
   StoreWizardSource(source_, settingsFile_);
+  return true;
 }
 
 }  // namespace plenovia

@@ -18,14 +18,15 @@ class SourceWizDlg : public WizardDlg {
   Q_OBJECT
 
  public:
-  // "Next >" stores the choice in the settings file.
+  // "Next >" stores the choice in the settings file. When the source is a file that cannot be read
+  // it tells so, and the page stays.
   SourceWizDlg(QWidget* parent, const WizardSource& source,
                const std::filesystem::path& settingsFile);
 
   const WizardSource& Source() const { return source_; }
 
  protected:
-  void OnNext() override;
+  bool OnNext() override;
 
  private:
   void CheckType();
@@ -33,6 +34,8 @@ class SourceWizDlg : public WizardDlg {
   // The name of the source that the user chooses.
   std::optional<QString> Ask(WizardSourceType type);
   std::optional<QString> AskFigure();
+  // Why the file of that name cannot be a source; empty when it can be read.
+  static QString Obstacle(const QString& file);
 
   WizardSource source_;
   const std::filesystem::path settingsFile_;

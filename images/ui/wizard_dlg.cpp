@@ -55,8 +55,7 @@ void WizardDlg::AddButtons(BackButton back) {
   buttons->addWidget(next_, 0, 2, Qt::AlignRight);
   next_->setDefault(true);
   connect(next_, &QPushButton::clicked, this, [this] {
-    OnNext();
-    done(kNext);
+    if (OnNext()) done(kNext);
   });
 }
 

@@ -27,8 +27,9 @@ class WizardDlg : public QDialog {
   // The last step of making a page, so that the Tab key comes to the buttons last.
   void AddButtons(BackButton back);
 
-  // Called before the page closes with the result of that name.
-  virtual void OnNext() {}
+  // Called before the page closes with the result of that name. "Next >" leaves the page open when
+  // it gives false.
+  virtual bool OnNext() { return true; }
   virtual void OnBack() {}
 
  private:

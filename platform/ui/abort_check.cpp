@@ -1,7 +1,6 @@
 #include "platform/ui/abort_check.h"
 
 #include <QCoreApplication>
-#include <QMdiSubWindow>
 #include <QPointer>
 
 #include "platform/ui/private_message.h"
@@ -17,33 +16,29 @@ class StopWatch : public QObject {
     QCoreApplication::instance()->installEventFilter(this);
   }
 
-  bool stopped() const { return stopped_ || frame_.isNull(); }
+  Abort seen() const { return frame_.isNull() ? Abort::kLeaving : seen_; }
 
  protected:
-  bool eventFilter(QObject* receiver, QEvent* event) override {
-    if (event->type() == QEvent::Quit) {
-      stopped_ = true;
-    } else if (event->type() == QEvent::Close) {
-      if (receiver == frame_ || qobject_cast<QMdiSubWindow*>(receiver) != nullptr) stopped_ = true;
-    } else if (event->type() == PrivateMessage::EventType()) {
-      const bool stops = static_cast<PrivateMessage*>(event)->number() == WM_STOPPROCESS;
-      if (stops) stopped_ = true;
-      return stops;
-    }
-    return false;
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != PrivateMessage::EventType()) return false;
+    const auto& message = *static_cast<PrivateMessage*>(event);
+    if (message.number() != WM_STOPPROCESS) return false;
+    const bool all = message.value() == kStopAllProcesses;
+    if (seen_ != Abort::kLeaving) seen_ = all ? Abort::kLeaving : Abort::kStopped;
+    return !all;
   }
 
  private:
   QPointer<QWidget> frame_;
-  bool stopped_ = false;
+  Abort seen_ = Abort::kNone;
 };
 
 }  // namespace
 
-int PumpAndCheckAbort(QWidget* frame) {
+Abort PumpAndCheckAbort(QWidget* frame) {
   const StopWatch watch(frame);
   QCoreApplication::processEvents();
-  return watch.stopped() ? -1 : 0;
+  return watch.seen();
 }
 
 }  // namespace plenovia

@@ -45,6 +45,18 @@ QLabel* MakeLabel(const QString& text, QWidget* control) {
   return label;
 }
 
+QLabel* MakeNote(int lines, const QString& text) {
+  auto* note = new QLabel(text);
+  note->setObjectName(QStringLiteral("note"));
+  note->setTextFormat(Qt::PlainText);
+  note->setWordWrap(true);
+  note->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  note->setMinimumHeight(lines * note->fontMetrics().lineSpacing());
+  // It takes the width that the controls have.
+  note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+  return note;
+}
+
 QPushButton* MakeOkButton(QDialog* dialog) {
   QPushButton* button = MakeButton(kOkButton, QDialog::tr("OK"));
   button->setDefault(true);

@@ -25,14 +25,17 @@ QLineEdit* MakeNumberEdit(int id, int digits = 6);
 // The text in front of a control.
 QLabel* MakeLabel(const QString& text, QWidget* control);
 
+// A text below controls, which wraps and has room for `lines` lines. "note".
+QLabel* MakeNote(int lines, const QString& text = {});
+
 // OK, which the Enter key presses, accepts the dialog; Cancel, and the Escape key, reject it.
 QPushButton* MakeOkButton(QDialog* dialog);
 QPushButton* MakeCancelButton(QDialog* dialog);
 // Both, side by side in the middle of a row.
 QHBoxLayout* MakeOkCancelRow(QDialog* dialog);
 
-// So many units of the measure that dialogs are laid out in, a quarter of a character's width and
-// an eighth of its height, in the widget's font.
+// A number of units of the measure that dialogs are laid out in, a quarter of a character's width
+// and an eighth of its height, in the widget's font.
 QSize DialogUnits(const QWidget& widget, int width, int height);
 
 }  // namespace plenovia

@@ -1,9 +1,11 @@
 // The platform's own dialogs for opening and saving files.
 #pragma once
 
+#include <QFileDialog>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
+#include <functional>
 #include <optional>
 
 namespace plenovia {
@@ -17,7 +19,12 @@ struct FileQuestion {
   QString filters;           // as FilterEntries() takes them
   int preselected = 1;       // position of a filter entry, from 1; beyond the list: the first one
   QString defaultExtension;  // for names typed without one; without a dot
-  QString suggestion;        // a file name to start with; may be empty
+  QString suggestion;        // a file name to start with, or a whole path; may be empty
+  QString folder;            // to start in, if it exists; empty: that of the last dialog
+  QString place;             // a folder for the side bar, beside the usual ones; may be empty
+  std::function<void(QFileDialog&)> extend;  // adds to a dialog that is Qt's own; may be empty
+  // What the dialog says below the name while the file with this path is chosen; may be null.
+  std::function<QString(const QString& path)> warning;
 };
 
 // An existing file, or nothing when the user cancels.

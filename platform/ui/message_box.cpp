@@ -2,6 +2,8 @@
 
 #include <QMessageBox>
 
+#include "platform/ui/text.h"
+
 namespace plenovia {
 
 namespace {
@@ -30,6 +32,11 @@ void ShowMessage(QWidget* owner, const QString& text, const QString& title, Mess
   QMessageBox box(BoxIcon(icon), title, Lines(text), QMessageBox::Ok, owner);
   box.setTextFormat(Qt::PlainText);
   box.exec();
+}
+
+void ShowFailure(QWidget* owner, const Error& error) {
+  if (error.code == ErrorCode::kCancelled) return;
+  ShowMessage(owner, ToSentence(error.message), QObject::tr("Error"), MessageIcon::kStop);
 }
 
 Answer AskYesNoCancel(QWidget* owner, const QString& text, const QString& title) {

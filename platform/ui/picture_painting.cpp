@@ -29,25 +29,37 @@ QRect DevicePixels(const QWidget& widget, const QRect& area) {
   return QRectF(QPointF(area.topLeft()) * scale, QSizeF(area.size()) * scale).toAlignedRect();
 }
 
-QPoint DevicePixels(const QWidget& widget, const QPointF& point) {
-  const QPointF exact = point * widget.devicePixelRatioF();
-  return {qFloor(exact.x()), qFloor(exact.y())};
+QPoint DevicePixelAt(const QWidget& widget, const QMouseEvent& event) {
+  constexpr qreal kRoundingError = 1e-3;
+  const QPoint corner = widget.mapTo(widget.window(), QPoint());
+  // The place in the widget is rounded to Qt's units when the event came through the window, whose
+  // place is not. An event that was made for the widget has no other place.
+  QPointF place = event.position() + corner;
+  const QPointF exact = event.scenePosition();
+  if ((exact - place).manhattanLength() <= 1) place = exact;
+  const qreal scale = widget.devicePixelRatioF();
+  return {qFloor(place.x() * scale + kRoundingError) - qRound(corner.x() * scale),
+          qFloor(place.y() * scale + kRoundingError) - qRound(corner.y() * scale)};
+}
+
+QRect ZoomedPlace(const IndexedImage& picture, double zoom, const QPoint& corner) {
+  return {corner, QSize(ZoomedSide(picture.width(), zoom), ZoomedSide(picture.height(), zoom))};
+}
+
+QImage ZoomedPart(const IndexedImage& picture, double zoom, const QRect& part) {
+  QImage shown(part.size(), QImage::Format_RGB32);
+  if (shown.isNull()) return shown;
+  RenderZoomed(picture, zoom, {part.left(), part.top(), part.right() + 1, part.bottom() + 1},
+               {reinterpret_cast<std::uint32_t*>(shown.bits()),
+                static_cast<std::size_t>(shown.sizeInBytes()) / sizeof(std::uint32_t)});
+  return shown;
 }
 
 void PaintPicture(QPainter& painter, const IndexedImage& picture, double zoom, QPoint corner,
                   const QRect& exposed) {
-  const QRect whole(corner,
-                    QSize(ZoomedSide(picture.width(), zoom), ZoomedSide(picture.height(), zoom)));
-  const QRect part = whole & exposed;
+  const QRect part = ZoomedPlace(picture, zoom, corner) & exposed;
   if (part.isEmpty()) return;
-  QImage shown(part.size(), QImage::Format_RGB32);
-  if (shown.isNull()) return;
-  const PixelRect area{part.left() - corner.x(), part.top() - corner.y(),
-                       part.right() + 1 - corner.x(), part.bottom() + 1 - corner.y()};
-  RenderZoomed(picture, zoom, area,
-               {reinterpret_cast<std::uint32_t*>(shown.bits()),
-                static_cast<std::size_t>(shown.sizeInBytes()) / sizeof(std::uint32_t)});
-  painter.drawImage(part.topLeft(), shown);
+  painter.drawImage(part.topLeft(), ZoomedPart(picture, zoom, part.translated(-corner)));
 }
 
 QImage ToImage(const IndexedImage& picture) {

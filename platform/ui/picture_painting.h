@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QImage>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPoint>
 #include <QRect>
@@ -18,7 +19,13 @@ void UseDevicePixels(QPainter& painter);
 // The widget's area in the display's pixels.
 QSize DevicePixels(const QWidget& widget);
 QRect DevicePixels(const QWidget& widget, const QRect& area);
-QPoint DevicePixels(const QWidget& widget, const QPointF& point);
+// The pixel under the mouse, counted from where painting in the widget begins.
+QPoint DevicePixelAt(const QWidget& widget, const QMouseEvent& event);
+
+// Where the picture at `zoom` is when its corner is at `corner`.
+QRect ZoomedPlace(const IndexedImage& picture, double zoom, const QPoint& corner);
+// The part `part` of the picture at `zoom`; null when there is no memory for it.
+QImage ZoomedPart(const IndexedImage& picture, double zoom, const QRect& part);
 
 // Paints what of the picture at `zoom`, with its corner at `corner`, lies in `exposed`. The painter
 // counts in the display's pixels.

@@ -3,6 +3,7 @@
 
 #include <QEvent>
 #include <QPointer>
+#include <QString>
 #include <QWidget>
 
 #include "platform/private_messages.h"
@@ -35,6 +36,9 @@ class PrivateMessage final : public QEvent {
   // What the receiver answers; 0 when it does not.
   int result() const { return result_; }
   void SetResult(int result) { result_ = result; }
+  // A sentence for the user that goes with the answer; empty when there is nothing to say.
+  const QString& reason() const { return reason_; }
+  void SetReason(const QString& reason) { reason_ = reason; }
 
  private:
   PrivateMessageNumber number_;
@@ -42,6 +46,7 @@ class PrivateMessage final : public QEvent {
   QWidget* window_ = nullptr;
   const ProgressInfo* progress_ = nullptr;
   int result_ = 0;
+  QString reason_;
 };
 
 // Handles the message before it returns, and gives the answer; 0 when the receiver is null.

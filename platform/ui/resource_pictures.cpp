@@ -70,4 +70,8 @@ QCursor CursorById(int id, qreal scaleFactor) {
   return QCursor(picture, hot.x(), hot.y());
 }
 
+void ShowBusyCursor(QWidget& window, bool busy) {
+  window.setCursor(CursorById(busy ? kBusyCursor : kNormalCursor, window.devicePixelRatioF()));
+}
+
 }  // namespace plenovia

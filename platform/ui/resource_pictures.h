@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QSize>
 #include <QString>
+#include <QWidget>
 
 namespace plenovia {
 
@@ -25,5 +26,7 @@ inline constexpr int kNormalCursor = 1251;
 
 // Cursors 1250 to 1261, drawn for a display with this scale factor; the arrow for other numbers.
 QCursor CursorById(int id, qreal scaleFactor);
+// The busy or the normal cursor over a window.
+void ShowBusyCursor(QWidget& window, bool busy);
 
 }  // namespace plenovia

@@ -17,6 +17,13 @@ std::filesystem::path ToPath(const QString& path) {
   return {QFile::encodeName(path).toStdString()};
 }
 
+QString ToSentence(std::string_view message) {
+  QString sentence = ToQString(message);
+  if (sentence.isEmpty()) return sentence;
+  sentence[0] = sentence[0].toUpper();
+  return sentence.endsWith(u'.') ? sentence : sentence + u'.';
+}
+
 QString BaseNameTitle(const QString& path) {
   const qsizetype cut = std::max(path.lastIndexOf(u'/'), path.lastIndexOf(u'\\'));
   return (cut > 0 ? path.mid(cut + 1) : path).toLower();

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdio>
 #include <filesystem>
 #include <string>
@@ -27,8 +28,9 @@ TEST_P(ShippedTiles, AreGoodToFuse) {
   ASSERT_TRUE(tile) << tile.error().message;
   EXPECT_GE(tile->width(), 100) << "the tile repeats itself within the default gap";
   const TileQuality quality = MeasureTile(*tile);
-  EXPECT_TRUE(IsGoodToFuse(quality)) << "repeat " << quality.repeat << ", local "
-                                     << quality.localRepeat << ", detail " << quality.leastDetail;
+  EXPECT_TRUE(IsGoodToFuse(quality))
+      << "repeat " << quality.repeat << ", local " << quality.localRepeat << ", detail "
+      << quality.leastDetail << ", seam " << quality.seam;
   for (const Rgb mark : {Rgb{255, 255, 0}, Rgb{0, 0, 128}}) {
     const Palette& palette = tile->palette();
     EXPECT_EQ(palette[palette.Nearest(mark)], mark) << "markers and caption do not stand out";
@@ -46,6 +48,25 @@ TEST(TileTable, ItsQuickTilesAreTheShippedOnes) {
     ASSERT_TRUE(made && shipped) << recipe.name;
     EXPECT_TRUE(SameColours(*made, *shipped)) << recipe.name;
   }
+}
+
+TEST(MeasureTile, SeesASeamAtTheDefaultGap) {
+  // Light and dark that change slowly under fine grain: the cut shows unless the gap is the width.
+  const auto clouds = [](int width) {
+    Random random(2);
+    const Palette palette = Palette::Grays();
+    IndexedImage tile = IndexedImage::Create(width, 64, palette).value();
+    for (int y = 0; y < 64; ++y) {
+      for (int x = 0; x < width; ++x) {
+        const double wave = std::sin(6.2832 * x / width + y / 64.0 * 6.2832);
+        tile.Row(y)[static_cast<std::size_t>(x)] =
+            static_cast<std::uint8_t>(100 + 60 * wave + random.Int(0, 80));
+      }
+    }
+    return MeasureTile(tile).seam;
+  };
+  EXPECT_NEAR(clouds(100), 1, 1e-9);
+  EXPECT_GT(clouds(150), 2);
 }
 
 TEST(MeasureTile, SeesRepeatsAndFlatPlaces) {

@@ -83,7 +83,7 @@ void PressBarButton(Monkey& monkey) {
 }
 
 void UseDocument(Monkey& monkey) {
-  const TMouseWnd* document = monkey.Frame().GetActiveChild();
+  const Document* document = monkey.Frame().GetActiveChild();
   if (document == nullptr || monkey.Frame().isMinimized()) return;
   auto* view = document->findChild<QAbstractScrollArea*>(QStringLiteral("client"));
   monkey.Note("mouse in " + document->windowTitle().toStdString());
@@ -208,7 +208,7 @@ void OpenFile(Monkey& monkey) {
   if (monkey.Frame().IsBusy()) return;
   const QString path = monkey.Files().ToOpen(monkey.Dice());
   monkey.Note("opens " + path.right(40).toStdString());
-  OpenByName(monkey.Frame(), path);
+  OpenByName(monkey.Frame().Context(), path);
 }
 
 void ChangeParameters(Monkey& monkey) {

@@ -10,7 +10,7 @@
 
 #include "app/tests/program.h"
 #include "codec/graph_io.h"
-#include "codec/graphic_format.h"
+#include "codec/picture_format.h"
 #include "platform/ui/text.h"
 
 namespace plenovia {

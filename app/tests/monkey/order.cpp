@@ -42,13 +42,13 @@ void ExpectCommandsAsAvailable(TPlenoviaWnd& frame) {
 
 void ExpectWholeDocuments(TPlenoviaWnd& frame) {
   const auto windows = frame.Area()->subWindowList();
-  TMouseWnd* active = frame.GetActiveChild();
+  Document* active = frame.GetActiveChild();
   EXPECT_EQ(active == nullptr, windows.isEmpty());
   int tables = 0;
   for (QMdiSubWindow* window : windows) {
     if (qobject_cast<TColorWnd*>(window) != nullptr) {
       ++tables;
-      EXPECT_EQ(frame.ColourTable(), window);
+      EXPECT_EQ(frame.Context().desk.ColourTable(), window);
     } else if (auto* picture = qobject_cast<TSirdsWnd*>(window)) {
       EXPECT_TRUE(picture->Picture()) << "a window without a picture";
     } else {
@@ -56,7 +56,7 @@ void ExpectWholeDocuments(TPlenoviaWnd& frame) {
     }
   }
   EXPECT_LE(tables, 1);
-  EXPECT_EQ(tables, frame.ColourTable() != nullptr ? 1 : 0);
+  EXPECT_EQ(tables, frame.Context().desk.ColourTable() != nullptr ? 1 : 0);
 }
 
 void ExpectToolShown(TPlenoviaWnd& frame) {

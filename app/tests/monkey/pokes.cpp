@@ -12,6 +12,7 @@
 #include <QWindow>
 #include <QtTest/QTest>
 #include <algorithm>
+#include <utility>
 
 namespace plenovia {
 
@@ -90,6 +91,14 @@ class Mouse {
   Qt::KeyboardModifiers modifiers_;
 };
 
+void SendKey(const QPointer<QWindow>& window, bool press, Qt::Key key,
+             Qt::KeyboardModifiers modifiers) {
+  if (!window) return;
+  const char letter = QTest::keyToAscii(key);
+  const QString text = letter != 0 ? QString(QLatin1Char(letter)) : QString();
+  QTest::simulateEvent(window, press, key, modifiers, text, false);
+}
+
 void PokeField(QLineEdit& field, Chance& chance) {
   if (chance.OneIn(3)) {
     UseKeys(field, chance);
@@ -135,8 +144,19 @@ void UseMouse(QWidget& widget, Chance& chance) {
 }
 
 void StrikeKey(const QPointer<QWindow>& window, Qt::Key key, Qt::KeyboardModifiers modifiers) {
-  if (window) QTest::keyPress(window, key, modifiers);
-  if (window) QTest::keyRelease(window, key, modifiers);
+  // QTest's own goes on in a window that the first of several events has closed.
+  constexpr std::pair<Qt::KeyboardModifier, Qt::Key> kModifierKeys[] = {
+      {Qt::ShiftModifier, Qt::Key_Shift},
+      {Qt::ControlModifier, Qt::Key_Control},
+      {Qt::AltModifier, Qt::Key_Alt}};
+  for (const auto& [modifier, modifierKey] : kModifierKeys) {
+    if ((modifiers & modifier) != 0) SendKey(window, true, modifierKey, Qt::NoModifier);
+  }
+  SendKey(window, true, key, modifiers);
+  SendKey(window, false, key, modifiers);
+  for (const auto& [modifier, modifierKey] : kModifierKeys) {
+    if ((modifiers & modifier) != 0) SendKey(window, false, modifierKey, modifiers);
+  }
 }
 
 void UseKeys(QWidget& window, Chance& chance) {

@@ -17,7 +17,7 @@ void Click(QWidget& widget, QPoint place, Chance& chance);
 // A click, double click, drag, way or turn of the wheel that begins in the widget. What lies above
 // the widget gets it, as with a real mouse.
 void UseMouse(QWidget& widget, Chance& chance);
-// Presses the key and releases it, if the window is still there then.
+// Presses the keys and releases them; what comes after the end of the window is left out.
 void StrikeKey(const QPointer<QWindow>& window, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 // A key, or a short word, to what has the focus in the window.
 void UseKeys(QWidget& window, Chance& chance);

@@ -40,8 +40,11 @@ class MapHand {
 
   void Mouse(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons buttons,
              Qt::KeyboardModifiers keys = {}) {
-    const QPointF place = at / View()->devicePixelRatioF();
-    QMouseEvent event(type, place, View()->mapToGlobal(place), button, buttons, keys);
+    const qreal scale = View()->devicePixelRatioF();
+    const QPointF corner = QPointF(View()->mapTo(View()->window(), QPoint())) * scale;
+    const QPointF inWindow = (QPointF(corner.toPoint()) + at) / scale;
+    QMouseEvent event(type, at / scale, inWindow, View()->window()->mapToGlobal(inWindow), button,
+                      buttons, keys);
     QCoreApplication::sendEvent(View(), &event);
   }
   void Press(QPoint at, Qt::KeyboardModifiers keys = {}) {

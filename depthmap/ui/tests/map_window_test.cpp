@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QScrollBar>
 #include <string>
 #include <utility>
 #include <vector>
@@ -28,6 +29,35 @@ TEST_F(MapWindow, SizeWaitsForTheWindowToBeNormal) {
   second->showNormal();
   QCoreApplication::processEvents();
   EXPECT_EQ(second->ClientSize(), QSize(300, 210));
+}
+
+TEST_F(MapWindow, AMapLargerThanTheDeskScrolls) {
+  window = Open(3000, 200);
+  EXPECT_TRUE(area.viewport()->rect().contains(window->geometry()));
+  EXPECT_NEAR(window->ClientSize().height(), 200, 1);
+  window->resize(QSize(350, 190) / window->devicePixelRatio());
+  QCoreApplication::processEvents();
+  const auto* client = window->findChild<QAbstractScrollArea*>(QStringLiteral("client"));
+  const QPoint scroll(1431, 47);
+  client->horizontalScrollBar()->setValue(scroll.x());
+  client->verticalScrollBar()->setValue(scroll.y());
+  Draw(kCircleTool, 7, {20, 10}, {120, 70});
+  EXPECT_EQ(Top(), "6(1451,57,1551,117)=7");
+  ExpectScreenUpToDate("after a new shape");
+  window->RunCommand(kSquareBoxTool);
+  Press({200, 20});
+  Pull({300, 60});
+  ExpectScreenUpToDate("with a rubber band");
+  Pull({240, 40});
+  ExpectScreenUpToDate("with a smaller rubber band");
+  Release({240, 40});
+  window->RunCommand(kMoveTool);
+  Drag({70, 40}, {150, 45});
+  EXPECT_EQ(Text(*window->Objects().Selected()), "6(1531,62,1631,122)=7");
+  ExpectScreenUpToDate("after a move");
+  client->horizontalScrollBar()->setValue(scroll.x() + 33);
+  client->verticalScrollBar()->setValue(20);
+  ExpectScreenUpToDate("after scrolling");
 }
 
 TEST_F(MapWindow, EachToolDrawsItsShapeWithTheCornersOfTheDrag) {
@@ -61,6 +91,29 @@ TEST_F(MapWindow, OnlyADragWithTheLeftButtonAloneDraws) {
   Drag({50, 50}, {51, 50});
   EXPECT_EQ(Top(), "3(50,50,51,50)=0");
   EXPECT_EQ(window->Objects().CountObjects(), 3);
+}
+
+TEST_F(MapWindow, ADragWhoseReleaseIsLostEndsWithoutAShape) {
+  window->RunCommand(kSquareBoxTool);
+  enum class Lost { kAtAMove, kAtAPress, kInADialog };
+  for (const Lost lost : {Lost::kAtAMove, Lost::kAtAPress, Lost::kInADialog}) {
+    Press({50, 50});
+    Pull({120, 90});
+    if (lost == Lost::kAtAMove) Hover({200, 200});
+    if (lost == Lost::kInADialog) SetLevel(5);
+    if (lost != Lost::kAtAPress) Pull({210, 210});
+    if (lost == Lost::kInADialog) Release({210, 210});
+    Click({10, 10});
+    EXPECT_EQ(window->Objects().CountObjects(), 1);
+  }
+  ExpectScreenUpToDate("the lost drags");
+  window->RunCommand(kPolygonTool);
+  Press({10, 10});
+  Pull({20, 20});
+  Hover({100, 10});
+  Click({100, 10});
+  DoubleClick({100, 100});
+  EXPECT_EQ(Top(), "5(10,10,100,10,100,100)=5") << "a polygon keeps its vertices";
 }
 
 TEST_F(MapWindow, PolygonCollectsClicksUpToADoubleClick) {
@@ -107,7 +160,7 @@ TEST_F(MapWindow, LevelsAreTakenAndGivenWithoutMakingTheMapUnsaved) {
   Click({300, 300});
   EXPECT_EQ(window->Objects().GetLevelAt(399, 0), 30);
   EXPECT_EQ(window->Objects().Selected(), window->Objects().Background());
-  EXPECT_TRUE(window->IsSaved());
+  EXPECT_FALSE(window->IsSaved());
   window->RunCommand(kSquareBoxTool);
   Drag({5, 5}, {9, 9});
   EXPECT_EQ(Top(), "3(5,5,9,9)=30");
@@ -125,7 +178,7 @@ TEST_F(MapWindow, MoveToolShiftsWhatIsUnderTheMouse) {
   Click({5, 5});
   EXPECT_EQ(window->Objects().Selected(), nullptr) << "nothing is there any more";
   Drag({5, 5}, {50, 50});
-  EXPECT_TRUE(window->IsSaved());
+  EXPECT_FALSE(window->IsSaved());
   EXPECT_EQ(window->ClientSize(), QSize(400, 400));
 }
 

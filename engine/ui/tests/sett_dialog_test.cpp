@@ -81,6 +81,7 @@ TEST_F(SettDialog, OkTakesEveryControl) {
   Type("edit114", "20");
   Click("check109");
   Click("check111");
+  Click("check115");
   Click("radio108");
   Choose(kLeftToRight);
   Click("button1");
@@ -95,7 +96,8 @@ TEST_F(SettDialog, OkTakesEveryControl) {
                                       .depthSel = kDepthByColor,
                                       .marker = 1,
                                       .useBmp = 0,
-                                      .scanMethod = kLeftToRight}));
+                                      .scanMethod = kLeftToRight,
+                                      .fitRange = 0}));
 }
 
 TEST_F(SettDialog, ANarrowWidthIsWidenedAsReopeningShows) {
@@ -104,6 +106,22 @@ TEST_F(SettDialog, ANarrowWidthIsWidenedAsReopeningShows) {
   Click("button1");
   Open();
   EXPECT_EQ(Text("edit104"), "200");
+}
+
+TEST_F(SettDialog, WhatIsTypedReplacesTheWidth) {
+  QTest::keyClicks(dialog->focusWidget(), QStringLiteral("600"));
+  EXPECT_EQ(Text("edit104"), "600");
+}
+
+TEST_F(SettDialog, TellsWhatOkReplaces) {
+  const auto note = [this] { return Get<QLabel>("note").text().toStdString(); };
+  EXPECT_EQ(note(), "");
+  Type("edit107", "20");
+  EXPECT_EQ(note(), "Gap Value 20 becomes 100.");
+  Get<QLineEdit>("edit104").clear();
+  EXPECT_EQ(note(), "Width becomes 200. Gap Value 20 becomes 100.");
+  Click("check106");
+  EXPECT_EQ(note(), "");
 }
 
 TEST_F(SettDialog, CancelLeavesTheRecord) {
@@ -135,7 +153,7 @@ TEST_F(SettDialog, UncheckedAgainOkReadsTheControls) {
   Click("check106");
   Click("check106");
   Choose(kFeucht);
-  EXPECT_EQ(Get<QComboBox>("list113").count(), 3);
+  EXPECT_EQ(Get<QComboBox>("list113").count(), 4);
   Click("button1");
   defaults.scanMethod = kFeucht;
   EXPECT_EQ(settings, defaults);
@@ -146,8 +164,9 @@ TEST_F(SettDialog, TabFollowsTheEye) {
       QStringLiteral("edit105"),  QStringLiteral("edit107"),  QStringLiteral("edit101"),
       QStringLiteral("edit102"),  QStringLiteral("edit110"),  QStringLiteral("edit103"),
       QStringLiteral("edit114"),  QStringLiteral("check109"), QStringLiteral("check111"),
-      QStringLiteral("radio108"), QStringLiteral("list113"),  QStringLiteral("check106"),
-      QStringLiteral("button1"),  QStringLiteral("button2"),  QStringLiteral("edit104")};
+      QStringLiteral("radio108"), QStringLiteral("list113"),  QStringLiteral("check115"),
+      QStringLiteral("check106"), QStringLiteral("button1"),  QStringLiteral("button2"),
+      QStringLiteral("edit104")};
   ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
   EXPECT_EQ(dialog->focusWidget()->objectName(), order.last());
   for (const QString& next : order) {

@@ -10,6 +10,7 @@
 #include <QTest>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "images/ui/figure_titles.h"
 #include "platform/file_io.h"
@@ -69,6 +70,8 @@ class Page {
   QRadioButton& Radio(int id) {
     return Get<QRadioButton>(dialog_, QStringLiteral("radio%1").arg(id));
   }
+  QDialog& Window() { return dialog_; }
+  std::string Note() { return Get<QLabel>(dialog_, QStringLiteral("note")).text().toStdString(); }
   std::string Label() {
     return Get<QLabel>(dialog_, QStringLiteral("label311")).text().toStdString();
   }
@@ -140,7 +143,9 @@ class Wizard : public testing::Test {
       });
     }
   }
-  std::optional<WizardSource> Run() { return RunWizard(nullptr, settings, library, settingsFile); }
+  std::optional<WizardChoice> Run() {
+    return RunWizard(nullptr, settings, library, settingsFile, levels);
+  }
   ProfileFile Written() const { return ProfileFile::Load(settingsFile).value(); }
   void Write(int type, const std::string& name, int figure) {
     ProfileFile profile;
@@ -155,7 +160,8 @@ class Wizard : public testing::Test {
   std::filesystem::path settingsFile = folder / "PLENOVIA.INI";
   TSirdsSettings settings{.dx = 5, .zmax = 63, .zmin = 1, .w = 500, .h = 300};
   const TSirdsSettings before = settings;
-  TSirdPatt library{"nowhere"};
+  TSirdPatt library;
+  LevelsFinder levels;
   DialogAnswers answers;
 };
 
@@ -261,19 +267,77 @@ INSTANTIATE_TEST_SUITE_P(Pages, WizardCancel, testing::Values(201, 202, 203, 204
 
 TEST_F(Wizard, ATypedPathIsGivenAsTyped) {
   Write(1, "old.bmp", 0);
-  On(201, [](Page& page) {
+  ASSERT_TRUE(WriteFile(folder / "Scene.BMP", std::vector<std::uint8_t>{0}));
+  const std::string typed = (folder / "Scene.BMP").string();
+  On(201, [&](Page& page) {
     EXPECT_TRUE(page.Radio(102).isChecked());
     EXPECT_EQ(page.Text(105), "old.bmp");
     page.Edit(105).clear();
     EXPECT_FALSE(page.IsEnabled(kNext));
-    page.Type(105, "/no/such/Folder/Scene.BMP");
+    page.Press(kNext);
+    for (const std::string& bad :
+         {std::string("/no/such/Folder/Scene.BMP"), folder.path().string()}) {
+      page.Type(105, bad.c_str());
+      page.Press(kNext);
+      EXPECT_EQ(page.Edit(105).selectedText().toStdString(), bad) << "the page stays";
+    }
+    page.Type(105, typed.c_str());
     page.Press(kNext);
   });
-  for (const int number : {202, 203, 204}) OnPress(number, kNext);
+  answers.AddMessage(QStringLiteral("There is no file \"/no/such/Folder/Scene.BMP\"."),
+                     QStringLiteral("SIRDS Wizard"));
+  answers.AddMessage(
+      QStringLiteral("\"%1\" is not a file that can be read.").arg(PathToQString(folder.path())),
+      QStringLiteral("SIRDS Wizard"));
+  On(202, [](Page& page) {
+    EXPECT_FALSE(page.Edit(104).isEnabled());
+    EXPECT_FALSE(page.Edit(105).isEnabled());
+    EXPECT_EQ(page.Note(), "Width and height are those of the picture or depth map.");
+    EXPECT_EQ(page.Edit(103).selectedText(), QStringLiteral("1"));
+    page.Press(kNext);
+  });
+  for (const int number : {203, 204}) OnPress(number, kNext);
   const auto source = Run();
   ASSERT_TRUE(source);
   EXPECT_EQ(source->type, kBitmapSource);
-  EXPECT_EQ(source->name.toStdString(), "/no/such/Folder/Scene.BMP");
+  EXPECT_EQ(source->name.toStdString(), typed);
+}
+
+TEST_F(Wizard, PagesKeepPlaceAndSize) {
+  const QRect place(40, 30, 640, 480);
+  On(201, [&](Page& page) {
+    page.Window().setGeometry(place);
+    page.Press(kNext);
+  });
+  for (const int number : {202, 203, 204}) {
+    On(number, [&](Page& page) {
+      EXPECT_EQ(page.Window().geometry(), place);
+      page.Press(kNext);
+    });
+  }
+  EXPECT_TRUE(Run());
+  std::vector<QSize> sizes;
+  for (const int number : {201, 202, 203, 204}) {
+    On(number, [&](Page& page) {
+      sizes.push_back(page.Window().size());
+      page.Press(kNext);
+    });
+  }
+  EXPECT_TRUE(Run());
+  EXPECT_EQ(sizes, std::vector(4, sizes.front()));
+}
+
+TEST_F(Wizard, TheSizePageTellsWhatIsNotTakenAsTyped) {
+  OnPress(201, kNext);
+  On(202, [](Page& page) {
+    EXPECT_EQ(page.Note(), "");
+    QTest::keyClicks(&page.Edit(104), QStringLiteral("600"));
+    EXPECT_EQ(page.Text(104), "600") << "what is typed takes the place of the old width";
+    page.Type(105, "abc");
+    EXPECT_EQ(page.Note(), "Height abc becomes 0. A stereogram of 600 x 0 pixels cannot be made.");
+    page.Press(kCancel);
+  });
+  EXPECT_FALSE(Run());
 }
 
 TEST_F(Wizard, AFileIsChosenOrTheChoiceCancelled) {

@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <utility>
 
 #include "images/ui/picture_from_image.h"
 #include "testing/picture_compare.h"
@@ -13,13 +14,21 @@
 namespace plenovia {
 namespace {
 
+// Nobody else has the clipboard here, so the answer comes at once.
+Result<IndexedImage> Pasted(ClipboardPictures& clipboard) {
+  Result<IndexedImage> pasted = Failure(ErrorCode::kIo, "no answer yet");
+  clipboard.ReadPicture([&](Result<IndexedImage> picture) { pasted = std::move(picture); });
+  return pasted;
+}
+
 TEST(Clipboard, PicturesComeBackWithTheirPalettes) {
+  ClipboardPictures clipboard;
   Random random(5);
   for (const int colours : {1, 2, 16, 100, 256}) {
     const IndexedImage picture = RandomPicture(random, 61, 43, colours);
     CopyToClipboard(picture);
-    ASSERT_TRUE(ClipboardHasPicture());
-    const auto pasted = PictureFromClipboard();
+    ASSERT_TRUE(clipboard.HasPicture());
+    const auto pasted = Pasted(clipboard);
     ASSERT_TRUE(pasted);
     EXPECT_TRUE(SamePixels(picture, *pasted));
     EXPECT_EQ(pasted->palette(), picture.palette());
@@ -31,32 +40,34 @@ TEST(Clipboard, PixelsBeyondThePaletteStayBlack) {
   picture.pixels()[0] = 0;
   picture.pixels()[1] = 1;
   picture.pixels()[2] = 200;
+  ClipboardPictures clipboard;
   CopyToClipboard(picture);
-  const auto pasted = PictureFromClipboard();
+  const auto pasted = Pasted(clipboard);
   ASSERT_TRUE(pasted);
   EXPECT_TRUE(SamePixels(picture, *pasted));
   EXPECT_TRUE(SameColours(picture, *pasted));
 }
 
 TEST(Clipboard, WithoutAPictureThereIsAnError) {
+  ClipboardPictures clipboard;
   QGuiApplication::clipboard()->clear();
-  EXPECT_FALSE(ClipboardHasPicture());
-  EXPECT_FALSE(PictureFromClipboard());
+  EXPECT_FALSE(clipboard.HasPicture());
+  EXPECT_FALSE(Pasted(clipboard));
   QGuiApplication::clipboard()->setText(QStringLiteral("text"));
-  EXPECT_FALSE(ClipboardHasPicture());
+  EXPECT_FALSE(clipboard.HasPicture());
   CopyToClipboard(IndexedImage());
   EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("text"));
 
   auto* nonsense = new QMimeData;
   nonsense->setImageData(QStringLiteral("no image"));
   QGuiApplication::clipboard()->setMimeData(nonsense);
-  EXPECT_TRUE(ClipboardHasPicture());
-  ASSERT_FALSE(PictureFromClipboard());
-  EXPECT_EQ(PictureFromClipboard().error().code, ErrorCode::kCorrupt);
+  EXPECT_TRUE(clipboard.HasPicture());
+  ASSERT_FALSE(Pasted(clipboard));
+  EXPECT_EQ(Pasted(clipboard).error().code, ErrorCode::kCorrupt);
 
   CopyToClipboard(QImage(32768, 1, QImage::Format_Mono));
-  ASSERT_FALSE(PictureFromClipboard());
-  EXPECT_EQ(PictureFromClipboard().error().code, ErrorCode::kTooLarge);
+  ASSERT_FALSE(Pasted(clipboard));
+  EXPECT_EQ(Pasted(clipboard).error().code, ErrorCode::kTooLarge);
 }
 
 TEST(PictureFromImage, PalettesAndGraysKeepTheirOrder) {
@@ -78,7 +89,7 @@ TEST(PictureFromImage, PalettesAndGraysKeepTheirOrder) {
   EXPECT_EQ(picture->Row(0)[4], 77);
 }
 
-TEST(PictureFromImage, TrueColourIsSeenBeforeWhite) {
+TEST(PictureFromImage, TrueColourIsCompositedOverWhite) {
   for (const auto format : {QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied,
                             QImage::Format_RGBA8888, QImage::Format_RGB888, QImage::Format_RGB32}) {
     SCOPED_TRACE(format);

@@ -34,6 +34,8 @@ class Frame : public QWidget {
       library_.AppendPattern(
           std::make_shared<const IndexedImage>(RandomPicture(random, 100, 100, 50)));
       message.SetResult(1);
+    } else {
+      message.SetReason(QStringLiteral("The disk is full."));
     }
     return true;
   }
@@ -70,7 +72,7 @@ class PattDialog : public testing::Test {
     EXPECT_EQ(Sample()->Pattern(), library.GetCurrentBitmap());
   }
 
-  TSirdPatt library{"nowhere"};
+  TSirdPatt library;
   Frame frame{library};
   std::unique_ptr<TPattDialog> dialog;
 };
@@ -122,7 +124,8 @@ TEST_F(PattDialog, AFailedAddIsToldAndChangesNothing) {
   Open(20, 7);
   frame.able = false;
   DialogAnswers answers;
-  answers.AddMessage(QStringLiteral("Unable to add the pattern."), QStringLiteral("Add Pattern"));
+  answers.AddMessage(QStringLiteral("Unable to add the pattern.\nThe disk is full."),
+                     QStringLiteral("Add Pattern"));
   Click(303);
   ExpectShown(8);
 }

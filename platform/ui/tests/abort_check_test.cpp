@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 
 #include "platform/ui/private_message.h"
 
@@ -29,10 +27,10 @@ TEST(AbortCheck, HandlesWhatWaitsAndGoesOn) {
   Frame frame;
   int handled = 0;
   frame.work = [&] { ++handled; };
-  EXPECT_EQ(PumpAndCheckAbort(&frame), 0);
+  EXPECT_EQ(PumpAndCheckAbort(&frame), Abort::kNone);
   PostPrivateMessage(&frame, WM_UPDATEFRAME);
   EXPECT_EQ(handled, 0);
-  EXPECT_EQ(PumpAndCheckAbort(&frame), 0);
+  EXPECT_EQ(PumpAndCheckAbort(&frame), Abort::kNone);
   EXPECT_EQ(handled, 1);
   EXPECT_EQ(SendPrivateMessage(&frame, PrivateMessage(WM_ADDPATTERN, 20)), 21);
 }
@@ -43,39 +41,34 @@ TEST(AbortCheck, StopMessageStopsOnce) {
   frame.work = [&] { ++handled; };
   PostPrivateMessage(&frame, WM_UPDATEFRAME);
   PostPrivateMessage(&frame, WM_STOPPROCESS);
-  EXPECT_EQ(PumpAndCheckAbort(&frame), -1);
+  EXPECT_EQ(PumpAndCheckAbort(&frame), Abort::kStopped);
   EXPECT_EQ(handled, 1);
-  EXPECT_EQ(PumpAndCheckAbort(&frame), 0);
+  EXPECT_EQ(PumpAndCheckAbort(&frame), Abort::kNone);
 }
 
 TEST(AbortCheck, StopMessageStopsTheInnermostOperationOnly) {
   Frame frame;
-  int inner = 0;
+  Abort inner = Abort::kNone;
   frame.work = [&] {
     PostPrivateMessage(&frame, WM_STOPPROCESS);
     inner = PumpAndCheckAbort(&frame);
   };
   PostPrivateMessage(&frame, WM_UPDATEFRAME);
-  EXPECT_EQ(PumpAndCheckAbort(&frame), 0);
-  EXPECT_EQ(inner, -1);
+  EXPECT_EQ(PumpAndCheckAbort(&frame), Abort::kNone);
+  EXPECT_EQ(inner, Abort::kStopped);
 }
 
-TEST(AbortCheck, CloseRequestsStopEveryOperation) {
+TEST(AbortCheck, AFrameThatClosesStopsEveryOperation) {
   Frame frame;
-  QMdiArea area;
-  auto* window = area.addSubWindow(new QWidget);
-  int inner = 0;
+  Abort inner = Abort::kNone;
   frame.work = [&] {
-    QMetaObject::invokeMethod(window, &QWidget::close, Qt::QueuedConnection);
+    PostPrivateMessage(&frame, WM_STOPPROCESS, kStopAllProcesses);
     inner = PumpAndCheckAbort(&frame);
   };
   PostPrivateMessage(&frame, WM_UPDATEFRAME);
-  EXPECT_EQ(PumpAndCheckAbort(&frame), -1);
-  EXPECT_EQ(inner, -1);
-
-  QMetaObject::invokeMethod(&frame, &QWidget::close, Qt::QueuedConnection);
-  EXPECT_EQ(PumpAndCheckAbort(&frame), -1);
-  EXPECT_EQ(PumpAndCheckAbort(nullptr), -1);
+  EXPECT_EQ(PumpAndCheckAbort(&frame), Abort::kLeaving);
+  EXPECT_EQ(inner, Abort::kLeaving);
+  EXPECT_EQ(PumpAndCheckAbort(nullptr), Abort::kLeaving);
 }
 
 }  // namespace

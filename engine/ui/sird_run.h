@@ -1,0 +1,41 @@
+// One stereogram to make: from what, with which pattern and which settings.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "engine/fit_depth_range.h"
+#include "engine/generation.h"
+#include "engine/sirds_settings.h"
+#include "platform/indexed_image.h"
+#include "platform/level_grid.h"
+#include "platform/result.h"
+
+namespace plenovia {
+
+// Keeps what it is made from, so it can be made again.
+struct SirdRun {
+  std::function<Result<IndexedImage>(const RunInput&)> make;
+  std::shared_ptr<const IndexedImage> pattern;
+  TSirdsSettings settings;
+  FittedRange range;  // in place of that of the settings
+
+  [[nodiscard]] Result<IndexedImage> Make(RunMonitor& monitor) const;
+  // The same with the range of the settings.
+  SirdRun WithRangeAsSet() const;
+};
+
+// The range is fitted where the source needs it and the settings do not forbid it. `pattern` may be
+// null until Make().
+SirdRun RunFromPicture(std::shared_ptr<const IndexedImage> source, double zoom,
+                       std::shared_ptr<const IndexedImage> pattern, const TSirdsSettings& settings);
+SirdRun RunFromMap(std::shared_ptr<const LevelGrid> map,
+                   std::shared_ptr<const IndexedImage> pattern, const TSirdsSettings& settings);
+// `code` is -(number of the figure + 1), `background` may be null, `title` is the caption.
+SirdRun RunFromFigure(std::int32_t code, std::shared_ptr<const IndexedImage> background,
+                      const QString& title, std::shared_ptr<const IndexedImage> pattern,
+                      const TSirdsSettings& settings);
+
+}  // namespace plenovia
