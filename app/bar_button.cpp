@@ -17,7 +17,7 @@ constexpr int kNumberHeight = 9;
 constexpr qreal kGrayedOpacity = 0.35;
 constexpr float kPressedOpacity = 0.35F;
 
-// Of the same size in pixels, whatever scale factor the face is made for.
+// Of the same size in pixels. The scale factor of the face is left out.
 QImage WithoutColour(const QPixmap& face) {
   QImage coloured = face.toImage().convertToFormat(QImage::Format_ARGB32);
   coloured.setDevicePixelRatio(1);

@@ -12,7 +12,7 @@ void CmFileNew(CommandContext& context);
 void CmFileOpen(CommandContext& context);
 
 // Open the file in a window of its own, or show a message why not. Of a damaged file what can be
-// read is shown, and the status line says so. A depth map is opened as one whatever its name.
+// read is shown, and the status line says so. A depth map is opened as one under any name.
 void OpenPicture(CommandContext& context, const QString& path);
 void OpenDepthMap(CommandContext& context, const QString& path);
 // As a depth map when it is one or the path contains ".rds" anywhere, else as a picture.

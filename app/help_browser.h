@@ -9,7 +9,7 @@
 
 namespace plenovia {
 
-// Links lead to pages of the help only. A picture's pixel is a pixel of the display whatever its
+// Links lead to pages of the help only. A picture's pixel is a pixel of the display at each
 // scale factor; pictures whose name ends in "@2x" are drawings, shown smoothly at half their size.
 class HelpBrowser : public QTextBrowser, public QTextObjectInterface {
   Q_OBJECT

@@ -20,7 +20,7 @@ double Seconds(const Work& work, int runs = 7) {
   return best;
 }
 
-// The shortest runs of two ways of doing something, in seconds. They take turns, so that whatever
+// The shortest runs of two ways of doing something, in seconds. They take turns, so that what
 // else the machine does meets both.
 template <class Work, class OtherWork>
 std::pair<double, double> SecondsInTurn(const Work& work, const OtherWork& other, int runs = 7) {

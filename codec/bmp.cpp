@@ -140,7 +140,7 @@ Result<BmpHeader> ParseBmpHeader(Bytes bytes) {
     header.masks = {0xff0000, 0x00ff00, 0x0000ff};
   }
 
-  // The palette ends where the pixels begin, whatever its length is said to be. An offset that
+  // The palette ends where the pixels begin, also when a greater length is given. An offset that
   // points into the headers is wrong: then the pixels follow the palette.
   const std::size_t entryBytes = core ? 3 : 4;
   const std::size_t most = header.bits <= 8 ? std::size_t{1} << header.bits : 0;

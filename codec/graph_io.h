@@ -39,7 +39,7 @@ class TGraphIO {
   // Of the picture read last; one black entry before.
   const Palette& GetPalette() const { return palette_; }
 
-  // The format that Write_File() writes, whatever the name; at first 1 (BMP).
+  // The format that Write_File() writes under any name; at first 1 (BMP).
   void SetGraphicFormat(int format) { format_ = format; }
   // Fails with kUnsupported for a number that is not that of a picture format. On failure the file
   // that was there stays as it was.

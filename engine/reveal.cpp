@@ -14,8 +14,8 @@ namespace {
 
 constexpr int kMostSeparations = 1024;
 
-// The height of the strips of a picture: as large as some megabytes of path costs allow, whatever
-// the vectors of the processor are, as results depend on it.
+// The height of the strips of a picture: as large as some megabytes of path costs allow. It is the
+// same for all processors, as results depend on it.
 int StripRows(const MatchCost& cost) {
   constexpr std::size_t kBytes = std::size_t{20} << 20;
   const std::size_t lanes = (static_cast<std::size_t>(cost.range().count()) / 16 + 1) * 16;

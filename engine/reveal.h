@@ -35,7 +35,7 @@ struct RevealedDepth {
 // itself; of several that are equally good, the smallest. kInvalid when the picture is empty or
 // the range is upside down or holds more than 1024 separations, kTooLarge when the memory does not
 // suffice, kCancelled when the monitor stopped it. The monitor hears the start, steps of at least
-// 10 percent and, whatever comes of it, the end.
+// 10 percent and, also after a failure, the end.
 [[nodiscard]] Result<RevealedDepth> Reveal(const IndexedImage& picture,
                                            const RevealOptions& options, RunMonitor& monitor);
 

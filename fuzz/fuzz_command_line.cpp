@@ -1,4 +1,4 @@
-// The command line: one word a line, run in a folder of its own. Whatever the words are, the
+// The command line: one word a line, run in a folder of its own. For any words, the
 // program ends with one of its exit statuses, and when it fails, nothing in the folder has changed.
 #include <stdlib.h>
 

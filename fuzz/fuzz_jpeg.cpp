@@ -1,4 +1,4 @@
-// The JPEG reader refuses or reads whatever it is given; what it read can be written.
+// The JPEG reader refuses or reads any bytes; what it read can be written.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

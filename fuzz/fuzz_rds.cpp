@@ -1,4 +1,4 @@
-// Depth-map files: whatever decodes can be sampled both ways and written and read again.
+// Depth-map files: what decodes can be sampled both ways and written and read again.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>

@@ -89,7 +89,7 @@ TEST_F(Reports, RevealFindsTheLevelsThatWereHidden) {
 
   ASSERT_EQ(Sirds({"reveal", out_, "-o", Path("seen.pgm")}).status, 0);
   const std::string seen = Contents("seen.pgm");
-  EXPECT_NE(seen.find('\xff'), std::string::npos);  // the nearest is white, whatever its level
+  EXPECT_NE(seen.find('\xff'), std::string::npos);  // the nearest is white at any level
 }
 
 TEST_F(Reports, ListsTheFigures) {

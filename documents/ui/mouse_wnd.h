@@ -30,7 +30,7 @@ struct TrackRect {
 };
 
 // The client area is what lies inside of the window's frame and scroll bars. It counts in the
-// display's own pixels from its top left corner, whatever the display's scale factor.
+// display's own pixels from its top left corner, at each scale factor.
 class TMouseWnd : public Document {
   Q_OBJECT
 

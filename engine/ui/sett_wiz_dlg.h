@@ -21,7 +21,7 @@ class SettWizDlg : public WizardDlg {
   SettWizDlg(QWidget* parent, const TSirdsSettings& settings, Size size,
              const FittedRange& offered);
 
-  // After "Next >": the record with the numbers as they were typed, whatever their range. What is
+  // After "Next >": the record with the numbers as they were typed, in range or not. What is
   // no number is 0, which the page tells while it is typed.
   const TSirdsSettings& Settings() const { return settings_; }
 

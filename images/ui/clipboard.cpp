@@ -49,7 +49,7 @@ Result<IndexedImage> PictureFrom(const QImage& image) {
 
 Result<IndexedImage> PictureFrom(const QByteArray& format, const QByteArray& bytes) {
   if (format != kBmp) return PictureFrom(QImage::fromData(bytes));
-  // Qt's reader would fill up a file that ends too early with whatever is in memory.
+  // Qt's reader would fill up a file that ends too early with what is left in memory.
   return DecodePicture({reinterpret_cast<const std::uint8_t*>(bytes.constData()),
                         static_cast<std::size_t>(bytes.size())});
 }

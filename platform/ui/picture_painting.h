@@ -14,7 +14,7 @@
 namespace plenovia {
 
 // Has the painter of a widget count in the display's own pixels from the widget's top left corner,
-// whatever the display's scale factor.
+// at each scale factor of the display.
 void UseDevicePixels(QPainter& painter);
 // The widget's area in the display's pixels.
 QSize DevicePixels(const QWidget& widget);

@@ -1,4 +1,4 @@
-// Whatever happens while a file is saved, there is the old file or the new one, whole, and nothing
+// Also when a save fails midway, there is the old file or the new one, whole, and nothing
 // beside it.
 #include <grp.h>
 #include <gtest/gtest.h>

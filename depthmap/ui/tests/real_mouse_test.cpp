@@ -1,4 +1,4 @@
-// The mouse as a real display tells of it, whatever the display's scale factor.
+// The mouse as a real display tells of it, at several scale factors.
 
 #include <QProcess>
 #include <QtTest/QTest>
