@@ -21,6 +21,7 @@ const std::map<std::string, std::set<std::string>> kRooms = {
     {"depthmap", {"platform"}},
     {"images", {"codec", "platform"}},
     {"engine", {"platform"}},
+    {"viewing", {"engine", "platform"}},
     {"cli", {"codec", "depthmap", "engine", "figures", "images", "platform"}},
     {"sirdspat", {"codec", "platform"}},
     {"samples", {"codec", "depthmap", "platform"}},
