@@ -123,6 +123,14 @@ bool CommandRouter::IsAvailable(int command) const {
 void CommandRouter::Refresh() {
   refreshWaits_ = false;
   for (const auto& [command, action] : actions_) action->setEnabled(IsAvailable(command));
+  for (const int command : {kCmUndo, kCmRedo}) Action(command)->setText(TextOf(command));
+}
+
+QString CommandRouter::TextOf(int command) const {
+  const QString text = Translated(RowOf(command)->text);
+  const Document* active = context_.desk.Active();
+  const QString subject = active != nullptr ? active->CommandSubject(command) : QString();
+  return subject.isEmpty() ? text : QStringLiteral("%1 %2").arg(text, subject);
 }
 
 void CommandRouter::RefreshSoon() {

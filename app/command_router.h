@@ -45,6 +45,8 @@ class CommandRouter : public QObject {
   void CommandDone(int command);
 
  private:
+  // The text of a command's row, with what the active window says that it is about.
+  QString TextOf(int command) const;
   QAction* Add(int command, const QString& text, const QString& hint);
 
   CommandContext& context_;

@@ -3,10 +3,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
 #include "depthmap/depth_obj.h"
+#include "depthmap/map_history.h"
 #include "platform/level_grid.h"
 
 namespace plenovia {
@@ -17,7 +19,8 @@ class LevelRows;
 // and cannot be deleted. A map made with a side below 1 has no objects until one is added.
 //
 // Objects are handed out const: what changes them goes through the list, so that it always knows
-// what it samples. An object that an operation names is ignored when it is not one of the list's.
+// what it samples, and can undo it. An object that an operation names is ignored when it is not in
+// the list.
 // One thread changes the list; LevelRow() may be called on several threads between changes.
 class TDepthList final : public LevelGrid {
  public:
@@ -35,7 +38,7 @@ class TDepthList final : public LevelGrid {
 
   // Walking: from Head() with Below(), or from Background() with Above(); null at the end.
   const TDepthObj* Head() const { return head_; }
-  const TDepthObj* Background() const;
+  const TDepthObj* Background() const { return background_; }
   static const TDepthObj* Below(const TDepthObj& object);
   static const TDepthObj* Above(const TDepthObj& object);
   std::int64_t CountObjects() const;
@@ -43,36 +46,65 @@ class TDepthList final : public LevelGrid {
   // The topmost object at the point, or null.
   const TDepthObj* ObjectAt(std::int32_t x, std::int32_t y) const;
 
-  const TDepthObj* Selected() const { return selected_; }
+  // The selected objects in the order of their selection, and the last of them or null.
+  std::span<TDepthObj* const> Selection() const { return selection_; }
+  const TDepthObj* Selected() const { return selection_.empty() ? nullptr : selection_.back(); }
+  // Whether the object is in this list.
+  bool Holds(const TDepthObj& object) const { return object.home_ == rows_.get(); }
+
   std::int32_t CurrentLevel() const { return currentLevel_; }
   void SetCurrentLevel(std::int32_t level) { currentLevel_ = level; }
-  bool IsSaved() const { return saved_; }
-  void MarkSaved() { saved_ = true; }
+  // Whether the map is as it was when it was marked saved, also after undo.
+  bool IsSaved() const { return saved_ == contents_; }
+  void MarkSaved() { saved_ = contents_; }
 
-  // Puts an object on top. Not saved any more.
+  // From here on changes can be undone.
+  void KeepHistory(std::size_t memory = MapHistory::kMemory);
+  // All changes between the two are one step, which counts as changed only where something is
+  // different at the end. MapEdit does both. A change outside is a step by itself.
+  void BeginEdit(EditKind kind);
+  void EndEdit();
+  // Takes back what has been done since BeginEdit().
+  void TakeBackEdit();
+  // Select the objects concerned. Nothing happens while an edit is open.
+  void Undo();
+  void Redo();
+  std::optional<EditKind> UndoKind() const;
+  std::optional<EditKind> RedoKind() const;
+
+  // Puts an object on top, or above another one of the list.
   void AddObject(std::unique_ptr<TDepthObj> object);
-  // Selects an object, or none with null. Both the old and the new selection are
-  // repainted.
+  void InsertAbove(const TDepthObj* below, std::unique_ptr<TDepthObj> object);
+  // Neither is possible for the background box.
+  void Remove(const TDepthObj* object);
+  void PutAbove(const TDepthObj* object, const TDepthObj* below);
+  void SetObjectLevel(const TDepthObj* object, std::int32_t level);
+  // The corners of a polygon follow from its vertices.
+  void SetGeometry(const TDepthObj* object, DepthGeometry geometry);
+  // The map's size; the background box keeps its own.
+  void SetSize(std::int64_t width, std::int64_t height);
+
+  // Selects an object, or none with null; or these objects, without those that are not in the list.
+  // Both the old and the new selection are repainted.
   void Select(const TDepthObj* object);
+  void SelectAll(std::span<const TDepthObj* const> objects);
   // Makes the object's level the current level, or the other way round, and selects the object.
   void GetObjectLevel(const TDepthObj* object);
-  // Not saved any more when the object had another level.
   void ApplyObjectLevel(const TDepthObj* object);
 
-  // Delete the selected object, or exchange it with the one above or below it. Nothing happens when
-  // none or the background box is selected, or when it would pass an end of the list.
+  // Delete the selected objects, or exchange each with the one above or below it. Nothing happens
+  // to the background box, and none passes it, an end of the list or another selected one.
   void CmDelete();
   void CmMoveUp();
   void CmMoveDown();
 
-  // TDepthObj::MoveTo for the selected object, the background box too. Neither repaints nor counts
-  // as a change that has to be saved.
+  // The object selected last as TDepthObj::MoveTo would have it, the background box too.
   void MoveSelectedTo(const DepthRect& rect);
   // Has the object's area repainted.
   void Invalidate(const TDepthObj* object);
 
-  // A number that another one replaces with every change of this list, other than those of the
-  // selected object's place on the map.
+  // A number that another one replaces with every change of this list, other than those of
+  // selected objects' places on the map.
   std::uint64_t Edition() const { return edition_; }
 
   // The map's size in pixels: as made, or that of the last object when it was read from a file.
@@ -90,19 +122,53 @@ class TDepthList final : public LevelGrid {
   void LevelRow(int y, std::span<std::int32_t> levels) const override;
 
  private:
-  TDepthObj* Own(const TDepthObj* object);
-  void ExchangeWithBelow(TDepthObj* upper);
+  friend class MapHistory;
+
+  TDepthObj* Own(const TDepthObj* object) const;
+  // Makes a change, which becomes its inverse.
+  void Exchange(ListChange& change);
+  void Exchanged(PresenceChange& change);
+  void Exchanged(OrderChange& change);
+  void Exchanged(LevelChange& change);
+  void Exchanged(GeometryChange& change);
+  void Exchanged(SizeChange& change);
+  // MapHistory::Undo or Redo, with the selection that follows.
+  using HistoryStep = std::optional<std::uint64_t> (MapHistory::*)(TDepthList&,
+                                                                   std::vector<TDepthObj*>&);
+  void Step(HistoryStep step);
+  // A change that can be undone.
+  void Make(EditKind kind, ListChange change);
+  void Link(TDepthObj* object, TDepthObj* below);
+  TDepthObj* Unlink(TDepthObj* object);
   void Changed();
+  void Deselect(TDepthObj* object);
+  std::vector<TDepthObj*> SelectedFromTop() const;
 
   TDepthObj* head_ = nullptr;  // owned, with all that follows it
-  TDepthObj* selected_ = nullptr;
+  TDepthObj* background_ = nullptr;
+  std::vector<TDepthObj*> selection_;
   DepthObjOwner* owner_ = nullptr;
   std::int32_t currentLevel_ = 0;
   std::uint64_t edition_ = 0;
-  bool saved_ = false;
+  std::uint64_t newest_ = 1;  // the contents named last; 0 is never there
+  std::uint64_t contents_ = 1;
+  std::uint64_t saved_ = 0;
   std::int64_t width_ = 0;
   std::int64_t height_ = 0;
-  std::unique_ptr<LevelRows> rows_;
+  std::unique_ptr<LevelRows> rows_;  // its address tells this list from others
+  std::unique_ptr<MapHistory> history_;
+};
+
+// One step of a list's history, as long as it lives.
+class MapEdit {
+ public:
+  MapEdit(TDepthList& list, EditKind kind) : list_(list) { list_.BeginEdit(kind); }
+  ~MapEdit() { list_.EndEdit(); }
+  MapEdit(const MapEdit&) = delete;
+  MapEdit& operator=(const MapEdit&) = delete;
+
+ private:
+  TDepthList& list_;
 };
 
 }  // namespace plenovia

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <limits>
+#include <utility>
 
 namespace plenovia {
 
@@ -100,6 +101,12 @@ void TDepthObj::MoveTo(const DepthRect& rect) {
   const std::int64_t down = std::int64_t{rect.y1} - rect_.y1;
   for (DepthPoint& p : points_) p = {Saturate(p.x + right), Saturate(p.y + down)};
   UpdateBounds();
+}
+
+void TDepthObj::ExchangeGeometry(DepthGeometry& geometry) {
+  DropRegion();
+  std::swap(rect_, geometry.rect);
+  std::swap(points_, geometry.points);
 }
 
 void TDepthObj::AddPoint(const DepthPoint& point) {

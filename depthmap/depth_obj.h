@@ -51,6 +51,14 @@ struct DepthSize {
   bool operator==(const DepthSize&) const = default;
 };
 
+// What an object covers: its corners, and the vertices of a polygon, whose corners follow from
+// them.
+struct DepthGeometry {
+  DepthRect rect;
+  std::vector<DepthPoint> points;
+  bool operator==(const DepthGeometry&) const = default;
+};
+
 // Shows depth objects, and repaints the places where they changed.
 class DepthObjOwner {
  public:
@@ -73,6 +81,9 @@ class TDepthObj : public TLinkObj {
   std::int32_t GetLevel() const { return level_; }
   void SetLevel(std::int32_t level) { level_ = level; }
 
+  // Whether it is one of the selected objects of its list.
+  bool IsSelected() const { return selected_; }
+
   // The corners as given; of a polygon the box around its vertices. SetRect keeps a region that was
   // built before: it is meant for objects without one, or to be followed by DropRegion.
   const DepthRect& GetRect() const { return rect_; }
@@ -92,6 +103,10 @@ class TDepthObj : public TLinkObj {
   // A polygon moves by the way of the first corner, any other object takes the rectangle as it is.
   // Vertices stop at the ends of the 32-bit numbers.
   void MoveTo(const DepthRect& rect);
+
+  DepthGeometry GetGeometry() const { return {rect_, points_}; }
+  // Takes this geometry as it is, and hands out the one before.
+  void ExchangeGeometry(DepthGeometry& geometry);
 
   // For polygons; other kinds ignore both. AddPoint has no limit, SetPoints keeps the first
   // kMaxVertices.
@@ -117,6 +132,10 @@ class TDepthObj : public TLinkObj {
   std::int32_t level_;
   std::vector<DepthPoint> points_;
   DepthObjOwner* owner_;
+
+  friend class TDepthList;
+  const void* home_ = nullptr;  // what tells its list from others
+  bool selected_ = false;
 };
 
 }  // namespace plenovia

@@ -13,7 +13,8 @@ constexpr bool IsMapTool(int id) {
   return (id >= kSelectTool && id <= kApplyLevelTool) || IsDrawingTool(id);
 }
 constexpr bool IsMapCommand(int id) {
-  return IsMapTool(id) || (id >= kSetLevel && id <= kDeleteObject);
+  return IsMapTool(id) || (id >= kSetLevel && id <= kDeleteObject) || id == kCmUndo ||
+         id == kCmRedo;
 }
 // What a drawing tool draws.
 constexpr DepthObjKind KindOfTool(int id) {

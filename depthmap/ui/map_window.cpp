@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "depthmap/depth_map_file.h"
+#include "depthmap/ui/edit_names.h"
 #include "depthmap/ui/level_dialog.h"
 #include "platform/file_io.h"
 #include "platform/ui/message_box.h"
@@ -52,6 +53,7 @@ void TMapWindow::SetList(std::shared_ptr<TDepthList> list) {
   picture_.reset();
   list_ = std::move(list);
   list_->SetOwner(this);
+  list_->KeepHistory();
   rubber_.Stop();
   InvalidateAll();
   StateMayHaveChanged();
@@ -130,6 +132,19 @@ bool TMapWindow::HandlesCommand(int command) const {
   return IsMapCommand(command);
 }
 
+bool TMapWindow::CommandEnabled(int command) const {
+  if (command == kCmUndo) return list_->UndoKind().has_value();
+  if (command == kCmRedo) return list_->RedoKind().has_value();
+  return HandlesCommand(command);
+}
+
+QString TMapWindow::CommandSubject(int command) const {
+  const auto kind = command == kCmUndo   ? list_->UndoKind()
+                    : command == kCmRedo ? list_->RedoKind()
+                                         : std::nullopt;
+  return kind ? EditName(*kind) : QString();
+}
+
 void TMapWindow::RunCommand(int command) {
   switch (command) {
     case kSetLevel:
@@ -143,6 +158,12 @@ void TMapWindow::RunCommand(int command) {
       break;
     case kDeleteObject:
       list_->CmDelete();
+      break;
+    case kCmUndo:
+      list_->Undo();
+      break;
+    case kCmRedo:
+      list_->Redo();
       break;
     default:
       SetTool(command);
@@ -165,9 +186,12 @@ void TMapWindow::EvMDIActivate(bool active) {
 }
 
 void TMapWindow::StateMayHaveChanged() {
-  const bool changed = knownSaved_ != IsSaved() || knownSelected_ != list_->Selected();
+  const bool changed = knownSaved_ != IsSaved() || knownSelected_ != list_->Selected() ||
+                       knownUndo_ != list_->UndoKind() || knownRedo_ != list_->RedoKind();
   knownSaved_ = IsSaved();
   knownSelected_ = list_->Selected();
+  knownUndo_ = list_->UndoKind();
+  knownRedo_ = list_->RedoKind();
   if (changed) Q_EMIT StateChanged();
 }
 
@@ -221,8 +245,10 @@ void TMapWindow::InvalidateRubber() {
 void TMapWindow::OnLButtonDown(MouseKeys, QPoint point) {
   const TDepthObj* object = list_->ObjectAt(point.x(), point.y());
   switch (tool_) {
-    case kSelectTool:
     case kMoveTool:
+      list_->BeginEdit(EditKind::kMove);
+      [[fallthrough]];
+    case kSelectTool:
       list_->Select(object);
       break;
     case kGetLevelTool:
@@ -260,7 +286,13 @@ void TMapWindow::OnLButtonUp(MouseKeys, QPoint) {
   StateMayHaveChanged();
 }
 
+void TMapWindow::OnLeftTrackLost() {
+  EndRubber();
+  StateMayHaveChanged();
+}
+
 void TMapWindow::EndRubber() {
+  list_->EndEdit();
   InvalidateRubber();
   rubber_.SetClosed(false);
   if (tool_ != kPolygonTool) rubber_.Stop();
@@ -281,9 +313,7 @@ void TMapWindow::OnLButtonDblClk(MouseKeys, QPoint) {
 
 void TMapWindow::MoveSelected(QPoint way) {
   const TDepthObj* selected = list_->Selected();
-  list_->Invalidate(selected);
   list_->MoveSelectedTo(selected->GetRect().Shifted(way.x(), way.y()));
-  list_->Invalidate(selected);
 }
 
 void TMapWindow::AddShape() {

@@ -4,6 +4,7 @@
 #include <QString>
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "depthmap/depth_list.h"
 #include "depthmap/map_picture.h"
@@ -62,7 +63,9 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   void ResizeToMap();
 
   bool HandlesCommand(int command) const override;
+  bool CommandEnabled(int command) const override;
   void RunCommand(int command) override;
+  QString CommandSubject(int command) const override;
   bool NeedsSaving() const override { return !IsSaved(); }
   bool CanSave() const override { return true; }
   Result<void> Save(const QString& path) override;
@@ -77,7 +80,7 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   void OnLButtonDown(MouseKeys keys, QPoint point) override;
   void OnLButtonUp(MouseKeys keys, QPoint point) override;
   void OnLButtonDblClk(MouseKeys keys, QPoint point) override;
-  void OnLeftTrackLost() override { EndRubber(); }
+  void OnLeftTrackLost() override;
   void LeftDrag(int x, int y) override;
   void HoverMove(int x, int y) override;
 
@@ -105,6 +108,8 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   QSize extent_;
   int tool_ = kSelectTool;
   bool knownSaved_ = false;
+  std::optional<EditKind> knownUndo_;
+  std::optional<EditKind> knownRedo_;
   const TDepthObj* knownSelected_ = nullptr;  // compared only
 };
 

@@ -19,6 +19,8 @@ enum Command {
   kCmStopProcess = 205,
   kCmCopy = 221,
   kCmPaste = 223,
+  kCmUndo = 225,
+  kCmRedo = 226,
   kCmFirstFigure = 301,
   kCmLastFigure = 330,
   kCmVersion = 398,

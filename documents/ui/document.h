@@ -55,6 +55,9 @@ class Document : public QMdiSubWindow {
   virtual bool HandlesCommand(int /*command*/) const { return false; }
   virtual bool CommandEnabled(int command) const { return HandlesCommand(command); }
   virtual void RunCommand(int /*command*/) {}
+  // What the command would be about just now, which its text in the menu then names; empty when
+  // there is nothing to name.
+  virtual QString CommandSubject(int /*command*/) const { return {}; }
 
   // The file that it was read from or saved into; empty when there is none.
   const QString& File() const { return file_; }

@@ -222,6 +222,35 @@ TEST_F(MapWindow, ToolBelongsToTheWindowThatIsActive) {
   EXPECT_EQ(tools, (std::vector<int>{kCircleTool, kSelectTool, kLineTool}));
 }
 
+TEST_F(MapWindow, StepsAreTakenBackAndDoneAgain) {
+  const auto subject = [&](int command) { return window->CommandSubject(command).toStdString(); };
+  EXPECT_FALSE(window->CommandEnabled(kCmUndo));
+  Draw(kSquareBoxTool, 7, {10, 10}, {60, 60});
+  ASSERT_TRUE(window->WriteDepthMap(PathToQString(folder / "map.rds")));
+  window->RunCommand(kMoveTool);
+  Press({30, 30});
+  Pull({80, 60});
+  window->RunCommand(kCmUndo);
+  Pull({130, 90});
+  Release({130, 90});
+  EXPECT_EQ(Top(), "3(110,70,160,120)=7") << "not during the drag";
+  EXPECT_EQ(subject(kCmUndo), "Move");
+  window->RunCommand(kCmUndo);
+  EXPECT_EQ(Top(), "3(10,10,60,60)=7");
+  EXPECT_TRUE(window->IsSaved());
+  EXPECT_EQ(subject(kCmUndo), "Draw");
+  EXPECT_EQ(subject(kCmRedo), "Move");
+  ExpectScreenUpToDate("undo");
+  window->RunCommand(kCmUndo);
+  EXPECT_EQ(Stack(), "0");
+  EXPECT_FALSE(window->IsSaved());
+  EXPECT_FALSE(window->CommandEnabled(kCmUndo));
+  for (int i = 0; i < 3; ++i) window->RunCommand(kCmRedo);
+  EXPECT_EQ(Top(), "3(110,70,160,120)=7");
+  EXPECT_FALSE(window->CommandEnabled(kCmRedo));
+  ExpectScreenUpToDate("redo");
+}
+
 TEST_F(MapWindow, ScreenShowsEveryChange) {
   Draw(kSquareBoxTool, 200, {10, 10}, {160, 160});
   Draw(kCircleTool, 5, {100, 100}, {240, 200});
