@@ -12,6 +12,7 @@
 #include "cli/options.h"
 #include "cli/output.h"
 #include "cli/source.h"
+#include "cli/source_options.h"
 #include "cli/terminal_monitor.h"
 #include "engine/bands.h"
 #include "engine/depth_source.h"
@@ -26,7 +27,7 @@ struct DepthOptions {
   std::string out;
   TSirdsSettings settings;
   RunOptions run;
-  std::vector<CLI::Option*> figureOnly;
+  SourceOptions shape;
 };
 
 // The source in its own geometry: without the displacements that the scan methods need.
@@ -37,6 +38,9 @@ std::unique_ptr<DepthSource> MakeDepthSource(const Source& source, int width, in
   }
   if (const auto* map = std::get_if<TDepthList>(&source)) {
     return std::make_unique<MapDepth>(*map, 0);
+  }
+  if (const auto* fine = std::get_if<FineImage>(&source)) {
+    return std::make_unique<FineDepth>(*fine, 0);
   }
   settings.gapValue = 0;
   const std::int32_t code = std::get<Figure>(source).Code();
@@ -50,23 +54,25 @@ std::pair<int, int> SizeOf(const Source& source, const TSirdsSettings& settings)
   if (const auto* map = std::get_if<TDepthList>(&source)) {
     return {map->GridWidth(), map->GridHeight()};
   }
+  if (const auto* fine = std::get_if<FineImage>(&source)) return {fine->width(), fine->height()};
   return {settings.w, settings.h};
 }
 
-Result<IndexedImage> DepthPicture(const Source& source, const DepthOptions& options) {
+Result<IndexedImage> DepthPicture(const Source& source, const DepthOptions& options,
+                                  RunMonitor& monitor) {
   const auto [width, height] = SizeOf(source, options.settings);
   auto picture = IndexedImage::Create(width, height, Palette::Grays());
   if (!picture) return picture;
   const auto depth = MakeDepthSource(source, width, height, options.settings);
-  TerminalMonitor monitor(options.run.quiet);
   const auto makeWorker = [&]() -> RowWorker {
     auto levels =
         std::make_shared<std::vector<std::int32_t>>(static_cast<std::size_t>(picture->width()));
     return [&, levels](int scanLine) {
       depth->BuildRow(scanLine, *levels);
-      std::transform(
-          levels->begin(), levels->end(), picture->ScanLine(scanLine).begin(),
-          [](std::int32_t level) { return static_cast<std::uint8_t>(std::clamp(level, 0, 255)); });
+      std::transform(levels->begin(), levels->end(), picture->ScanLine(scanLine).begin(),
+                     [parts = depth->LevelParts()](std::int32_t level) {
+                       return static_cast<std::uint8_t>(std::clamp(level / parts, 0, 255));
+                     });
     };
   };
   const bool finished = RunBands(width, height, options.run.Threads(), makeWorker, monitor);
@@ -76,13 +82,10 @@ Result<IndexedImage> DepthPicture(const Source& source, const DepthOptions& opti
 }
 
 Outcome<void> Depth(const DepthOptions& options) {
-  if (const CLI::Option* given = FirstGiven(options.figureOnly);
-      given != nullptr && !NamesFigure(options.source)) {
-    return WrongUsage(given->get_name() + " is for figures only");
-  }
-  const auto source = OpenSource(options.source, options.run.Threads());
+  TerminalMonitor monitor(options.run.quiet);
+  const auto source = OpenSource(options.source, options.shape, options.run.Threads(), monitor);
   if (!source) return tl::unexpected(source.error());
-  const auto picture = DepthPicture(*source, options);
+  const auto picture = DepthPicture(*source, options, monitor);
   if (!picture) return Failed(options.source, picture.error());
   return WriteOutput(options.out, *picture, options.run.Threads());
 }
@@ -95,9 +98,8 @@ void AddDepthCommand(CLI::App& program, Task& task) {
   AddOperand(*command, "SOURCE", options->source, SourceHelp());
   AddOutput(*command, options->out, OutputKind::kGray);
   AddDepthBy(*command, options->settings);
-  options->figureOnly = AddFigureOptions(*command, options->settings);
+  options->shape.AddTo(*command, options->settings);
   AddRunOptions(*command, options->run);
-  for (CLI::Option* option : options->figureOnly) option->group("Figures only");
   command->footer(
       "The gray of a pixel is its depth level: 0 is black and far, 255 white and near; levels\n"
       "beyond are cut off. Figures span a few levels only, so their pictures are dark.\n\n"

@@ -11,6 +11,7 @@
 #include "cli/output.h"
 #include "cli/pattern.h"
 #include "cli/source.h"
+#include "cli/source_options.h"
 #include "cli/terminal_monitor.h"
 #include "engine/fit_depth_range.h"
 #include "engine/generation.h"
@@ -28,18 +29,14 @@ struct MakeOptions {
   TSirdsSettings settings;
   RunOptions run;
   bool fit = false;
-  std::vector<CLI::Option*> figureOnly;
-  std::vector<CLI::Option*> sizes;
+  ScanOptions scan;
+  SourceOptions shape;
 };
 
 Outcome<void> CheckOptions(const MakeOptions& options) {
   if (auto range = CheckDepthRange(options.settings); !range) return range;
-  if (!NamesFigure(options.source)) {
-    if (const CLI::Option* given = FirstGiven(options.figureOnly)) {
-      return WrongUsage(given->get_name() + " is for figures only");
-    }
-  } else if (const CLI::Option* given = FirstGiven(options.sizes);
-             given != nullptr && !options.background.empty()) {
+  if (const CLI::Option* given = options.shape.GivenSize();
+      given != nullptr && !options.background.empty()) {
     return WrongUsage("the background gives the size; leave out " + given->get_name());
   }
   return {};
@@ -53,15 +50,24 @@ std::pair<LevelRange, SourceKind> LevelsIn(const Source& source, std::int32_t de
   if (const auto* map = std::get_if<TDepthList>(&source)) {
     return {LevelsOf(*map), SourceKind::kShape};
   }
+  if (const auto* fine = std::get_if<FineImage>(&source)) {
+    return {LevelsOf(*fine), SourceKind::kImage};
+  }
   return {kFigureLevels, SourceKind::kShape};
 }
 
-// The settings with a depth range that shows the source. Prints the range as options.
-Outcome<TSirdsSettings> FittedSettings(const Source& source, TSirdsSettings settings) {
+// The settings with a depth range that shows the source. With --fit it prints the range as options.
+// Fine levels have no range that they are made for, so they are fitted where none is given.
+Outcome<TSirdsSettings> FittedSettings(const Source& source, const MakeOptions& options) {
+  TSirdsSettings settings = options.settings;
+  const bool rangeGiven = FirstGiven({options.scan.zmin, options.scan.zmax}) != nullptr;
+  const bool fine = std::holds_alternative<FineImage>(source);
+  if (!options.fit && (rangeGiven || !fine)) return settings;
   const auto [levels, kind] = LevelsIn(source, settings.depthSel);
   const FittedRange range = FitDepthRange(levels, kind, settings);
   settings.zmin = range.zmin;
   settings.zmax = range.zmax;
+  if (!options.fit) return settings;
   return Print("--zmin " + std::to_string(range.zmin) + " --zmax " + std::to_string(range.zmax) +
                "\n")
       .map([&] { return settings; });
@@ -69,7 +75,8 @@ Outcome<TSirdsSettings> FittedSettings(const Source& source, TSirdsSettings sett
 
 // The stereogram of the source, which is released before this returns.
 Outcome<IndexedImage> MakeStereogram(const MakeOptions& options) {
-  const auto source = OpenSource(options.source, options.run.Threads());
+  TerminalMonitor monitor(options.run.quiet);
+  const auto source = OpenSource(options.source, options.shape, options.run.Threads(), monitor);
   if (!source) return tl::unexpected(source.error());
   const auto pattern = OpenPattern(options.pattern, options.run.Threads());
   if (!pattern) return tl::unexpected(pattern.error());
@@ -80,16 +87,16 @@ Outcome<IndexedImage> MakeStereogram(const MakeOptions& options) {
     background = std::move(*picture);
   }
 
-  Outcome<TSirdsSettings> settings = options.settings;
-  if (options.fit) settings = FittedSettings(*source, options.settings);
+  const auto settings = FittedSettings(*source, options);
   if (!settings) return tl::unexpected(settings.error());
-  TerminalMonitor monitor(options.run.quiet);
   const RunInput input{*pattern, *settings, monitor, options.run.Threads()};
   Result<IndexedImage> result;
   if (const auto* picture = std::get_if<IndexedImage>(&*source)) {
     result = MakeSirdFromBitmap(*picture, 1.0, input);
   } else if (const auto* map = std::get_if<TDepthList>(&*source)) {
     result = MakeSirdFromDepthMap(*map, input);
+  } else if (const auto* fine = std::get_if<FineImage>(&*source)) {
+    result = MakeSirdFromFineImage(*fine, input);
   } else {
     const std::int32_t code = std::get<Figure>(*source).Code();
     result = MakeSirdFromFigure({_GetFigureLevel, code, &background, {}}, input);
@@ -117,22 +124,20 @@ void AddMakeCommand(CLI::App& program, Task& task) {
                    "Background tile: a picture, or its number in the list\n"
                    "of 'sirds patterns' (default 0)")
       ->option_text("FILE|NUMBER");
-  AddScanOptions(*command, options->settings);
+  options->scan = AddScanOptions(*command, options->settings);
   command->add_flag("--fit", options->fit,
                     "When the depth range does not show all levels of the\n"
                     "source, take one that does; prints the range used");
   AddDepthBy(*command, options->settings);
   AddMarkers(*command, options->settings);
-  options->figureOnly = AddFigureOptions(*command, options->settings);
-  options->sizes.assign(options->figureOnly.begin(), options->figureOnly.begin() + 2);
-  options->figureOnly.push_back(
-      command
-          ->add_option("--background", options->background,
-                       "Draw the figure into this picture instead of tiles;\n"
-                       "the result has its size and the pattern's colours")
-          ->option_text("PICTURE"));
+  options->shape.AddTo(*command, options->settings);
+  options->shape.Limit(command
+                           ->add_option("--background", options->background,
+                                        "Draw the figure into this picture instead of tiles;\n"
+                                        "the result has its size and the pattern's colours")
+                           ->option_text("PICTURE"),
+                       {SourceForm::kFigure});
   AddRunOptions(*command, options->run);
-  for (CLI::Option* option : options->figureOnly) option->group("Figures only");
   command->footer(
       "The stereogram has the size of its source. Look at it with the eyes parallel, as at\n"
       "something far behind it, until its two markers become three.\n\n"

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <string_view>
 
@@ -13,7 +14,6 @@ namespace plenovia {
 
 namespace {
 
-constexpr int kFarthest = 32767;
 constexpr int kDeepest = 65535;
 constexpr std::size_t kHelpColumns = 56;  // beside the names of the options
 
@@ -21,19 +21,35 @@ std::string Quoted(const std::string& text) {
   return "'" + text + "'";
 }
 
-}  // namespace
+std::string Plain(std::int32_t number) {
+  return std::to_string(number);
+}
+std::string Plain(double number) {
+  std::array<char, 32> text{};
+  return {text.data(),
+          std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::general)
+              .ptr};
+}
 
-CLI::Option* AddNumber(CLI::App& command, const std::string& name, std::int32_t& value, int low,
-                       int high, const std::string& meaning, const std::string& standard) {
-  const std::string range = std::to_string(low) + " to " + std::to_string(high);
-  const auto parse = [&value, name, low, high, range](const std::string& text) {
+template <class Number>
+struct Limits {
+  Number low;
+  Number high;
+};
+
+template <class Number>
+CLI::Option* AddNumberOf(CLI::App& command, const std::string& name, Number& value,
+                         Limits<Number> limits, const std::string& kind, const std::string& meaning,
+                         const std::string& standard) {
+  const std::string range = Plain(limits.low) + " to " + Plain(limits.high);
+  const auto parse = [&value, name, limits, range, kind](const std::string& text) {
     std::string_view digits = text;
     if (digits.starts_with('+')) digits.remove_prefix(1);
-    std::int32_t number = 0;
+    Number number{};
     const auto end = digits.data() + digits.size();
     const auto [stop, error] = std::from_chars(digits.data(), end, number);
-    if (error != std::errc() || stop != end || number < low || number > high) {
-      throw CLI::ValidationError(name + " takes a whole number from " + range + ", not " +
+    if (error != std::errc() || stop != end || !(number >= limits.low && number <= limits.high)) {
+      throw CLI::ValidationError(name + " takes " + kind + " from " + range + ", not " +
                                  Quoted(text));
     }
     value = number;
@@ -45,9 +61,21 @@ CLI::Option* AddNumber(CLI::App& command, const std::string& name, std::int32_t&
       ->option_text("N");
 }
 
+}  // namespace
+
+CLI::Option* AddNumber(CLI::App& command, const std::string& name, std::int32_t& value, int low,
+                       int high, const std::string& meaning, const std::string& standard) {
+  return AddNumberOf(command, name, value, {low, high}, "a whole number", meaning, standard);
+}
+
 CLI::Option* AddNumber(CLI::App& command, const std::string& name, std::int32_t& value, int low,
                        int high, const std::string& meaning) {
   return AddNumber(command, name, value, low, high, meaning, std::to_string(value));
+}
+
+CLI::Option* AddReal(CLI::App& command, const std::string& name, double& value, double low,
+                     double high, const std::string& meaning) {
+  return AddNumberOf(command, name, value, {low, high}, "a number", meaning, Plain(value));
 }
 
 CLI::Option* AddChoice(CLI::App& command, const std::string& name, std::int32_t& value,
@@ -99,16 +127,6 @@ CLI::Option* AddDepthBy(CLI::App& command, TSirdsSettings& settings) {
   return AddChoice(command, "--depth-by", settings.depthSel,
                    {{"color", kDepthByColor}, {"brightness", kDepthByBrightness}},
                    "Level of a picture's pixel: its number in the\npalette or its brightness");
-}
-
-std::vector<CLI::Option*> AddFigureOptions(CLI::App& command, TSirdsSettings& settings) {
-  return {
-      AddNumber(command, "--width", settings.w, 1, kFarthest, "Width of the picture"),
-      AddNumber(command, "--height", settings.h, 1, kFarthest, "Height of the picture"),
-      AddNumber(command, "--dx", settings.dx, -kFarthest, kFarthest, "Pixels to the right"),
-      AddNumber(command, "--dy", settings.dy, -kFarthest, kFarthest, "Pixels up"),
-      AddNumber(command, "--da", settings.da, -180, 180, "Degrees that the figure turns"),
-  };
 }
 
 void AddMarkers(CLI::App& command, TSirdsSettings& settings) {

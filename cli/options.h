@@ -27,6 +27,10 @@ CLI::Option* AddNumber(CLI::App& command, const std::string& name, std::int32_t&
 CLI::Option* AddNumber(CLI::App& command, const std::string& name, std::int32_t& value, int low,
                        int high, const std::string& meaning);
 
+// The same for any number.
+CLI::Option* AddReal(CLI::App& command, const std::string& name, double& value, double low,
+                     double high, const std::string& meaning);
+
 // An option "NAME WORD" for one of some words, each of which stands for a number.
 using Words = std::vector<std::pair<std::string, std::int32_t>>;
 CLI::Option* AddChoice(CLI::App& command, const std::string& name, std::int32_t& value,
@@ -45,8 +49,6 @@ ScanOptions AddScanOptions(CLI::App& command, TSirdsSettings& settings);
 [[nodiscard]] Outcome<void> CheckDepthRange(const TSirdsSettings& settings);
 // --depth-by.
 CLI::Option* AddDepthBy(CLI::App& command, TSirdsSettings& settings);
-// --width, --height, --dx, --dy and --da, in this order.
-std::vector<CLI::Option*> AddFigureOptions(CLI::App& command, TSirdsSettings& settings);
 // --markers and --no-markers.
 void AddMarkers(CLI::App& command, TSirdsSettings& settings);
 // --threads and -q.

@@ -7,12 +7,11 @@
 #include "codec/graph_io.h"
 #include "depthmap/depth_map_file.h"
 #include "platform/file_io.h"
+#include "sources/formula.h"
 
 namespace plenovia {
 
 namespace {
-
-constexpr std::string_view kFigurePrefix = "figure:";
 
 Outcome<TDepthList> DecodeMap(const std::string& file, const ByteBuffer& bytes) {
   auto contents = DecodeDepthMap(bytes);
@@ -28,23 +27,59 @@ Outcome<IndexedImage> Decode(const std::string& file, const ByteBuffer& bytes, i
   return IndexedImage(std::move(*picture));
 }
 
+Outcome<Source> OpenFigure(const std::string& name, const SourceOptions&, int, RunMonitor&) {
+  return FigureList().Find(name).map([](int number) { return Source(Figure{number}); });
+}
+
+Outcome<Source> OpenFormula(const std::string& text, const SourceOptions& options, int threads,
+                            RunMonitor& monitor) {
+  const Formula formula = options.FormulaOf(text);
+  if (auto checked = CheckFormula(formula); !checked) {
+    return WrongUsage("formula: " + checked.error().message);
+  }
+  auto image = DrawFormula(formula, options.width(), options.height(), threads, monitor);
+  if (!image) return Failed("formula", image.error());
+  return Source(std::move(*image));
+}
+
+// The forms of source that are no files.
+struct SourceOpener {
+  std::string_view prefix;
+  SourceForm form;
+  Outcome<Source> (*open)(const std::string& text, const SourceOptions& options, int threads,
+                          RunMonitor& monitor);
+};
+constexpr SourceOpener kOpeners[] = {
+    {"figure:", SourceForm::kFigure, OpenFigure},
+    {"formula:", SourceForm::kFormula, OpenFormula},
+};
+
 }  // namespace
 
 std::string SourceHelp() {
-  return "A picture (" + ReadableNames() + "), a depth map\n(.rds), figure:NUMBER or figure:TITLE";
+  return "A picture (" + ReadableNames() +
+         "), a depth map\n(.rds), figure:NUMBER, figure:TITLE or formula:Z, such\n"
+         "as \"formula:cos(x)*cos(y)\"";
 }
 
-bool NamesFigure(const std::string& text) {
-  return text.starts_with(kFigurePrefix);
-}
-
-Outcome<Source> OpenSource(const std::string& text, int threads) {
-  if (NamesFigure(text)) {
-    return FigureList()
-        .Find(std::string_view(text).substr(kFigurePrefix.size()))
-        .map([](int number) { return Source(Figure{number}); });
+Outcome<Source> OpenSource(const std::string& text, const SourceOptions& options, int threads,
+                           RunMonitor& monitor) {
+  const auto colon = text.find(':');
+  const std::string_view prefix = std::string_view(text).substr(0, colon + 1);
+  for (const SourceOpener& opener : kOpeners) {
+    if (colon == std::string::npos || prefix != opener.prefix) continue;
+    if (auto checked = options.Check(opener.form); !checked) {
+      return tl::unexpected(checked.error());
+    }
+    return opener.open(text.substr(colon + 1), options, threads, monitor);
   }
-  return OpenFile(text, threads).map([](OpenedFile&& opened) { return std::move(opened.source); });
+  auto opened = OpenFile(text, threads);
+  if (!opened) return tl::unexpected(opened.error());
+  const bool isMap = std::holds_alternative<TDepthList>(opened->source);
+  if (auto checked = options.Check(isMap ? SourceForm::kMap : SourceForm::kPicture); !checked) {
+    return tl::unexpected(checked.error());
+  }
+  return std::move(opened->source);
 }
 
 Outcome<OpenedFile> OpenFile(const std::string& file, int threads) {

@@ -6,7 +6,10 @@
 #include <variant>
 
 #include "cli/outcome.h"
+#include "cli/source_options.h"
 #include "depthmap/depth_list.h"
+#include "engine/run_monitor.h"
+#include "platform/fine_image.h"
 #include "platform/indexed_image.h"
 
 namespace plenovia {
@@ -17,13 +20,11 @@ struct Figure {
   std::int32_t Code() const { return -(number + 1); }
 };
 
-using Source = std::variant<IndexedImage, TDepthList, Figure>;
+// What has fine levels comes as a FineImage.
+using Source = std::variant<IndexedImage, TDepthList, Figure, FineImage>;
 
 // The words of help for a SOURCE.
 std::string SourceHelp();
-
-// Whether the text begins as a figure does. A file of such a name is reached as "./figure:...".
-bool NamesFigure(const std::string& text);
 
 // A picture or a depth map, whichever the content of the file is. Of a damaged file what can be
 // read, with a warning; `threads` may work on it, or one a processor when that is 0.
@@ -33,8 +34,11 @@ struct OpenedFile {
 };
 [[nodiscard]] Outcome<OpenedFile> OpenFile(const std::string& file, int threads = 0);
 
-// A file or a figure.
-[[nodiscard]] Outcome<Source> OpenSource(const std::string& text, int threads);
+// Whatever a SOURCE names: something that begins with the name of a form and a colon, or a file. A
+// file of such a name is reached as "./figure:...". Wrong usage when the command line has an option
+// that is not for it.
+[[nodiscard]] Outcome<Source> OpenSource(const std::string& text, const SourceOptions& options,
+                                         int threads, RunMonitor& monitor);
 
 // Reads a picture of any format that the program knows, as OpenFile() does.
 [[nodiscard]] Outcome<IndexedImage> ReadPicture(const std::string& file, int threads = 0);

@@ -6,6 +6,7 @@ find_package(JPEG REQUIRED)
 find_package(PNG REQUIRED)
 find_package(tl-expected CONFIG REQUIRED)
 find_package(CLI11 CONFIG REQUIRED)
+find_package(muparser CONFIG REQUIRED)
 
 if(PLENOVIA_TESTS)
   find_package(GTest REQUIRED)

@@ -113,6 +113,13 @@ bool PictureDepth::BuildByteRow(int scanLine, std::span<std::uint8_t> depth) con
   return true;
 }
 
+void FineDepth::BuildRow(int scanLine, std::span<std::int32_t> depth) const {
+  std::ranges::fill(depth, 0);
+  const auto row = image_.Row(image_.height() - 1 - scanLine);
+  const auto fed = Fed(depth, start_, row.size());
+  std::copy_n(row.begin(), fed.size(), fed.begin());
+}
+
 void MapDepth::BuildRow(int scanLine, std::span<std::int32_t> depth) const {
   BuildMapDepthRow(depth, map_, scanLine, start_);
 }

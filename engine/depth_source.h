@@ -8,6 +8,7 @@
 
 #include "engine/scan_method.h"
 #include "engine/sirds_settings.h"
+#include "platform/fine_image.h"
 #include "platform/indexed_image.h"
 #include "platform/level_grid.h"
 
@@ -44,6 +45,8 @@ class DepthSource {
  public:
   virtual ~DepthSource() = default;
   virtual SourceKind kind() const = 0;
+  // The parts of a level in which BuildRow() counts; the depth range counts in whole levels.
+  virtual int LevelParts() const { return 1; }
   virtual void BuildRow(int scanLine, std::span<std::int32_t> depth) const = 0;
   // The same levels as bytes, for a source that always has levels of 0..255; otherwise false, and
   // nothing is written.
@@ -67,6 +70,21 @@ class PictureDepth : public DepthSource {
   bool byIndex_;
   std::array<std::uint8_t, 256> levels_;
   std::vector<std::size_t> columns_;  // at a zoom, the source's column for each magnified one
+};
+
+// A picture of 65536 steps from level 0 to level 255, placed from column `start` on.
+class FineDepth : public DepthSource {
+ public:
+  static constexpr int kLevelParts = 257;  // 255 * 257 is the highest step
+
+  FineDepth(const FineImage& image, int start) : image_(image), start_(start) {}
+  SourceKind kind() const override { return SourceKind::kImage; }
+  int LevelParts() const override { return kLevelParts; }
+  void BuildRow(int scanLine, std::span<std::int32_t> depth) const override;
+
+ private:
+  const FineImage& image_;
+  int start_;
 };
 
 class MapDepth : public DepthSource {

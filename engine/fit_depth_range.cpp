@@ -58,6 +58,13 @@ LevelRange LevelsOf(const LevelGrid& map) {
   return range;
 }
 
+LevelRange LevelsOf(const FineImage& picture) {
+  if (picture.empty()) return {};
+  const auto [least, most] = std::ranges::minmax(picture.pixels());
+  constexpr int kParts = FineDepth::kLevelParts;
+  return {least / kParts, (most + kParts - 1) / kParts};
+}
+
 FittedRange FitDepthRange(LevelRange levels, SourceKind kind, const TSirdsSettings& settings) {
   const ScanMethod& method = ScanMethodOf(settings.scanMethod);
   // In rows of this width all methods repeat the background at about the gap.

@@ -7,6 +7,7 @@
 
 #include "engine/scan_method.h"
 #include "engine/sirds_settings.h"
+#include "platform/fine_image.h"
 #include "platform/indexed_image.h"
 #include "platform/level_grid.h"
 
@@ -15,6 +16,8 @@ namespace plenovia {
 // The lowest and the highest level that occur in a source; 0 and 0 for an empty one.
 LevelRange LevelsOf(const IndexedImage& picture, std::int32_t depthSel);
 LevelRange LevelsOf(const LevelGrid& map);
+// The whole levels around those that occur.
+LevelRange LevelsOf(const FineImage& picture);
 // The figures of the library stay between these.
 inline constexpr LevelRange kFigureLevels = {0, 24};
 

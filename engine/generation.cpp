@@ -82,8 +82,11 @@ Result<IndexedImage> ShiftRows(const Canvas& canvas, const DepthSource& source,
       IndexedImage::Create(canvas.finalWidth, canvas.height,
                            blends ? blends->palette() : input.pattern.palette().Widened());
   if (!result) return result;
-  const auto shift = method.prepare(
-      {canvas.runWidth, canvas.gap, source.kind(), input.settings, blends ? &*blends : nullptr});
+  ScanSetup setup(canvas.runWidth, canvas.gap, source.kind(), input.settings,
+                  blends ? &*blends : nullptr);
+  setup.zmin *= source.LevelParts();
+  setup.range *= source.LevelParts();
+  const auto shift = method.prepare(setup);
   const bool finished = RunBands(
       canvas.runWidth, canvas.height, input.threads,
       [&]() -> RowWorker {
@@ -185,18 +188,18 @@ Result<IndexedImage> FromBitmap(const IndexedImage& source, double zoom, const R
   return Generate(canvas, PictureDepth(source, zoom, start, settings.depthSel), input);
 }
 
-Result<IndexedImage> FromDepthMap(const LevelGrid& map, const RunInput& input) {
-  const TSirdsSettings& settings = input.settings;
-  if (auto fits = CheckPictureSize(map.GridWidth(), map.GridHeight()); !fits) {
-    return tl::unexpected(fits.error());
-  }
+// From a source of the result's size.
+template <class Depth, class Levels>
+Result<IndexedImage> FromLevels(const Levels& levels, int width, int height,
+                                const RunInput& input) {
+  if (auto fits = CheckPictureSize(width, height); !fits) return tl::unexpected(fits.error());
   Canvas canvas;
-  canvas.gap = settings.gapValue;
-  canvas.height = map.GridHeight();
-  canvas.finalWidth = map.GridWidth();
-  const ScanMethod& method = ScanMethodOf(settings.scanMethod);
+  canvas.gap = input.settings.gapValue;
+  canvas.height = height;
+  canvas.finalWidth = width;
+  const ScanMethod& method = ScanMethodOf(input.settings.scanMethod);
   canvas.runWidth = method.RunWidth(canvas.finalWidth, canvas.gap);
-  return Generate(canvas, MapDepth(map, method.StartColumn(canvas.gap)), input);
+  return Generate(canvas, Depth(levels, method.StartColumn(canvas.gap)), input);
 }
 
 Result<IndexedImage> FromFigure(const FigureRun& figure, const RunInput& input) {
@@ -227,7 +230,13 @@ Result<IndexedImage> MakeSirdFromBitmap(const IndexedImage& source, double zoom,
 }
 
 Result<IndexedImage> MakeSirdFromDepthMap(const LevelGrid& map, const RunInput& input) {
-  return Run(input, "", [&] { return FromDepthMap(map, input); });
+  return Run(input, "",
+             [&] { return FromLevels<MapDepth>(map, map.GridWidth(), map.GridHeight(), input); });
+}
+
+Result<IndexedImage> MakeSirdFromFineImage(const FineImage& source, const RunInput& input) {
+  return Run(input, "",
+             [&] { return FromLevels<FineDepth>(source, source.width(), source.height(), input); });
 }
 
 Result<IndexedImage> MakeSirdFromFigure(const FigureRun& figure, const RunInput& input) {

@@ -7,6 +7,7 @@
 #include "engine/depth_source.h"
 #include "engine/run_monitor.h"
 #include "engine/sirds_settings.h"
+#include "platform/fine_image.h"
 #include "platform/indexed_image.h"
 #include "platform/level_grid.h"
 #include "platform/result.h"
@@ -33,6 +34,11 @@ struct RunInput {
 // its markers; the source is read at the nearest pixel.
 [[nodiscard]] Result<IndexedImage> MakeSirdFromBitmap(const IndexedImage& source, double zoom,
                                                       const RunInput& input);
+
+// Depth from a picture of fine levels, in its size; step 257 of it is level 1 of the depth range. A
+// method that moves whole pixels rounds what comes of them.
+[[nodiscard]] Result<IndexedImage> MakeSirdFromFineImage(const FineImage& source,
+                                                         const RunInput& input);
 
 // Depth from a depth map, in the map's size.
 [[nodiscard]] Result<IndexedImage> MakeSirdFromDepthMap(const LevelGrid& map,

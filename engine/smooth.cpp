@@ -31,18 +31,26 @@ constexpr std::int32_t kNothing = 1 << 29;  // seen where there is no surface; l
 // shows one eye three times as many pixels as the other.
 constexpr std::int32_t kEdge = kPixel;
 
-double ExactSeparation(std::int64_t level, const ScanSetup& setup) {
-  const double depth =
-      static_cast<double>(level - setup.zmin) / static_cast<double>(setup.Divisor());
-  return setup.gap - depth * setup.gap / 2;
-}
+// The separation of a level, as a real number and in parts of a pixel.
+class Separations {
+ public:
+  explicit Separations(const ScanSetup& setup)
+      : gap_(setup.gap),
+        zmin_(static_cast<double>(setup.zmin)),
+        range_(static_cast<double>(setup.Divisor())) {}
 
-std::int32_t FixedSeparation(std::int64_t level, const ScanSetup& setup) {
-  constexpr double kFarthest = 1 << 15;
-  const double separation = ExactSeparation(level, setup);
-  if (!(separation >= 1)) return kNoPair;
-  return static_cast<std::int32_t>(std::lround(std::min(separation, kFarthest) * kPixel));
-}
+  double Exact(double level) const { return gap_ - (level - zmin_) / range_ * gap_ / 2; }
+  std::int32_t Fixed(double level) const {
+    constexpr double kFarthest = 1 << 15;
+    const double separation = std::clamp(Exact(level), 0.0, kFarthest);
+    return separation < 1 ? kNoPair : static_cast<std::int32_t>(separation * kPixel + 0.5);
+  }
+
+ private:
+  double gap_;
+  double zmin_;
+  double range_;
+};
 
 enum Eye : int { kLeftEye = -1, kRightEye = 1 };
 
@@ -137,24 +145,22 @@ void HandOn(int x, int width, std::int32_t* places, const std::int32_t* seen,
 
 class SmoothShift final : public PreparedShift {
  public:
-  explicit SmoothShift(const ScanSetup& setup) : setup_(setup) {
-    for (std::size_t level = 0; level < separations_.size(); ++level) {
-      separations_[level] = FixedSeparation(static_cast<std::int64_t>(level), setup);
+  explicit SmoothShift(const ScanSetup& setup) : setup_(setup), separations_(setup) {
+    for (std::size_t level = 0; level < byByte_.size(); ++level) {
+      byByte_[level] = separations_.Fixed(static_cast<double>(level));
     }
   }
 
   void ShiftBytes(ShiftBuffers& row) const override {
     std::ranges::transform(row.byteLevels(), row.separations().begin(),
-                           [&](std::uint8_t level) { return separations_[level]; });
+                           [&](std::uint8_t level) { return byByte_[level]; });
     Work(row);
   }
 
   void Shift(ShiftBuffers& row) const override {
-    std::ranges::transform(row.levels(), row.separations().begin(), [&](std::int32_t level) {
-      const bool isByte = level >= 0 && level <= 255;
-      return isByte ? separations_[static_cast<std::size_t>(level)]
-                    : FixedSeparation(level, setup_);
-    });
+    std::ranges::transform(
+        row.levels(), row.separations().begin(),
+        [separations = separations_](std::int32_t level) { return separations.Fixed(level); });
     Work(row);
   }
 
@@ -226,7 +232,8 @@ class SmoothShift final : public PreparedShift {
   }
 
   ScanSetup setup_;
-  DistanceTable separations_{};  // by level
+  Separations separations_;
+  DistanceTable byByte_{};
 };
 
 }  // namespace
@@ -241,7 +248,8 @@ const ScanMethod kSmoothMethod = {
     .blends = true,
     .separation =
         [](std::int64_t level, const ScanSetup& setup) {
-          return static_cast<std::int64_t>(std::llround(ExactSeparation(level, setup)));
+          return static_cast<std::int64_t>(
+              std::llround(Separations(setup).Exact(static_cast<double>(level))));
         },
     .shows = [](LevelRange levels,
                 const ScanSetup& setup) { return kMcMahonMethod.shows(levels, setup); },

@@ -158,6 +158,8 @@ constexpr std::array kKnownWords = {
     "o.gif",
     "figure:3",
     "figure:k",
+    "formula:cos(x)*y",
+    "--reach",
     "figure:",
     "--pattern",
     "3",

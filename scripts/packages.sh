@@ -38,7 +38,7 @@ need_packages() {
 # To build the cores and the command line.
 core_packages=(
   cmake g++ ninja-build
-  libcli11-dev libexpected-dev libgif-dev libjpeg62-turbo-dev libpng-dev
+  libcli11-dev libexpected-dev libgif-dev libjpeg62-turbo-dev libmuparser-dev libpng-dev
 )
 # To build the desktop program, and to show it.
 build_packages=(

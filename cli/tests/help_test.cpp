@@ -2,8 +2,10 @@
 #include <fstream>
 #include <iterator>
 #include <regex>
+#include <sstream>
 
 #include "cli/tests/fixture.h"
+#include "sources/formula.h"
 
 namespace plenovia {
 
@@ -32,6 +34,23 @@ TEST(Help, OfEachCommandIsInTheManualToo) {
       if (text.starts_with("Example: ")) text.erase(0, 9);
       EXPECT_NE(manual.find(text), std::string::npos) << "the manual lacks " << text;
     }
+  }
+}
+
+TEST(Help, ListsTheExamplesOfFormulas) {
+  std::ifstream file(FORMULA_PAGE);
+  const std::string page((std::istreambuf_iterator<char>(file)), {});
+  for (const FormulaExample& example : FormulaExamples()) {
+    std::ostringstream reach;
+    reach << example.formula.reach;
+    const std::string& text = example.formula.text;
+    EXPECT_NE(Manual().find(std::string(example.name) + " " + reach.str() + " " + text),
+              std::string::npos)
+        << example.name;
+    EXPECT_NE(page.find("<td>" + std::string(example.name) + "</td><td><code>" + text +
+                        "</code></td><td>" + reach.str() + "</td>"),
+              std::string::npos)
+        << example.name;
   }
 }
 

@@ -117,6 +117,19 @@ TEST_F(SirdsTest, FitsTheDepthRangeAndPrintsItAsOptions) {
   EXPECT_TRUE(SamePixels(Read(out_), Read(Path("set.png"))));
 }
 
+TEST_F(SirdsTest, FitsFineLevelsUnlessARangeIsGiven) {
+  const auto make = [&](std::vector<std::string> range) {
+    std::vector<std::string> arguments = {"make", "formula:x*y", "-o",     out_,    "--pattern",
+                                          tile_,  "--scan",      "smooth", "--gap", "40"};
+    arguments.insert(arguments.end(), range.begin(), range.end());
+    EXPECT_EQ(Sirds(arguments).status, 0);
+    return Read(out_);
+  };
+  const IndexedImage fitted = make({});
+  EXPECT_TRUE(SamePixels(fitted, make({"--zmin", "0", "--zmax", "383"})));
+  EXPECT_FALSE(SamePixels(fitted, make({"--zmax", "300"})));
+}
+
 TEST_F(SirdsTest, ReplacesItsOwnSource) {
   ASSERT_EQ(Sirds({"make", scene_, "-o", out_, "--pattern", tile_}).status, 0);
   ASSERT_EQ(Sirds({"make", scene_, "-o", scene_, "--pattern", tile_}).status, 0);

@@ -1,0 +1,75 @@
+#include "cli/source_options.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <utility>
+
+#include "cli/options.h"
+
+namespace plenovia {
+
+namespace {
+
+constexpr int kFarthest = 32767;
+
+const char* NameOf(SourceForm form) {
+  switch (form) {
+    case SourceForm::kPicture:
+      return "pictures";
+    case SourceForm::kMap:
+      return "depth maps";
+    case SourceForm::kFigure:
+      return "figures";
+    case SourceForm::kFormula:
+      return "formulas";
+  }
+  return "";
+}
+
+std::string NamesOf(const std::vector<SourceForm>& forms) {
+  std::string names;
+  for (const SourceForm form : forms) {
+    if (!names.empty()) names += form == forms.back() ? " and " : ", ";
+    names += NameOf(form);
+  }
+  return names;
+}
+
+}  // namespace
+
+void SourceOptions::AddTo(CLI::App& command, TSirdsSettings& settings) {
+  using enum SourceForm;
+  settings_ = &settings;
+  sizes_ = {AddNumber(command, "--width", settings.w, 1, kFarthest, "Width of the picture"),
+            AddNumber(command, "--height", settings.h, 1, kFarthest, "Height of the picture")};
+  for (CLI::Option* size : sizes_) Limit(size, {kFigure, kFormula});
+  Limit(AddNumber(command, "--dx", settings.dx, -kFarthest, kFarthest, "Pixels to the right"),
+        {kFigure});
+  Limit(AddNumber(command, "--dy", settings.dy, -kFarthest, kFarthest, "Pixels up"), {kFigure});
+  Limit(AddNumber(command, "--da", settings.da, -180, 180, "Degrees that the figure turns"),
+        {kFigure});
+  Limit(AddReal(command, "--reach", reach_, kSmallestReach, kLargestReach,
+                "x and y go from -N to N along the shorter side"),
+        {kFormula});
+}
+
+void SourceOptions::Limit(CLI::Option* option, std::vector<SourceForm> forms) {
+  std::string group = NamesOf(forms) + " only";
+  group[0] = static_cast<char>(group[0] - 'a' + 'A');
+  option->group(group);
+  limited_.push_back({option, std::move(forms)});
+}
+
+Outcome<void> SourceOptions::Check(SourceForm form) const {
+  for (const Limited& limited : limited_) {
+    if (limited.option->count() == 0 || std::ranges::count(limited.forms, form) != 0) continue;
+    return WrongUsage(limited.option->get_name() + " is for " + NamesOf(limited.forms) + " only");
+  }
+  return {};
+}
+
+const CLI::Option* SourceOptions::GivenSize() const {
+  return FirstGiven(sizes_);
+}
+
+}  // namespace plenovia

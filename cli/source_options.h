@@ -1,0 +1,48 @@
+// Options that are for some forms of SOURCE only.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/outcome.h"
+#include "engine/sirds_settings.h"
+#include "sources/formula.h"
+
+namespace CLI {
+class App;
+class Option;
+}  // namespace CLI
+
+namespace plenovia {
+
+enum class SourceForm { kPicture, kMap, kFigure, kFormula };
+
+class SourceOptions {
+ public:
+  // Adds --width, --height, --dx, --dy, --da and the options that shape a source. What they set
+  // lives as long as this does, and `settings` as long as that.
+  void AddTo(CLI::App& command, TSirdsSettings& settings);
+  // Says that an option, which the command has, is for these forms only.
+  void Limit(CLI::Option* option, std::vector<SourceForm> forms);
+
+  // Wrong usage when the command line has an option that is not for this form.
+  [[nodiscard]] Outcome<void> Check(SourceForm form) const;
+  // The first of --width and --height that the command line has, or none.
+  const CLI::Option* GivenSize() const;
+
+  int width() const { return settings_->w; }
+  int height() const { return settings_->h; }
+  Formula FormulaOf(const std::string& text) const { return {text, reach_}; }
+
+ private:
+  struct Limited {
+    CLI::Option* option;
+    std::vector<SourceForm> forms;
+  };
+  std::vector<Limited> limited_;
+  std::vector<CLI::Option*> sizes_;
+  const TSirdsSettings* settings_ = nullptr;
+  double reach_ = Formula().reach;
+};
+
+}  // namespace plenovia
