@@ -47,6 +47,8 @@ constexpr CommandRow kCommands[] = {
     {kGraphics, kCmZoomIn, T("Zoom &In"), T("Zoom In"), nullptr, &IsIdle, "Ctrl++; Ctrl+="},
     {kGraphics, kCmZoomOut, T("Zoom &Out"), T("Zoom Out"), nullptr, &IsIdle, "Ctrl+-"},
     {kGraphics, kCmActualSize, T("&Actual Size"), T("Zoom to the size of the picture"), nullptr, &IsIdle, "Ctrl+0"},
+    {kGraphics, kCmZoomToFit, T("&Zoom to Fit"), T("Show all of the map"), nullptr, &IsIdle, "Ctrl+9"},
+    {kGraphics, kCmMapView, T("Map View: &Next"), T("Show the map as outlines, shaded, or both"), nullptr, nullptr, "O"},
     {kGraphics, kCmFullScreen, T("&Full Screen"), T("View Full Screen"), nullptr, nullptr, "F11"},
     {kGraphics, 0, nullptr, nullptr, nullptr, nullptr},
     {kGraphics, kCmWizard, T("SIRDS &Wizard"), T("Use SIRDS Wizard"), &CmWizard, nullptr, "Ctrl+Shift+N"},

@@ -56,12 +56,12 @@ std::pair<double, double> Measure(TDepthList& map, const TDepthObj* dragged) {
   map.Select(dragged);
   const double whole = bench::Seconds([&] {
     MapPicture picture(map, labels);
-    picture.SetSize(kSide, kSide);
+    picture.SetView(all);
     picture.Render(all, {}, pixels);
     bench::Keep(pixels.data());
   });
   MapPicture picture(map, labels);
-  picture.SetSize(kSide, kSide);
+  picture.SetView(all);
   picture.Render(all, {}, pixels);
   double slowest = 0;
   for (int step = 0; step < 40; ++step) {

@@ -20,36 +20,39 @@ namespace plenovia {
 //
 // What lies above and what lies below the selected object is kept row by row once it was needed,
 // so that moving this object or the rubber band costs what the area costs, however many objects
-// the map has.
+// the map has. Rows and columns are those of the map as it is shown.
 class MapPicture {
  public:
   // Both are borrowed.
   MapPicture(const TDepthList& list, LevelLabels& labels) : list_(list), labels_(labels) {}
 
-  // The picture shows the columns 0..width-1 of the rows 0..height-1.
-  void SetSize(int width, int height);
-  // Gives up what is kept of rows other than first..end-1, which are in view.
-  void KeepRows(int first, int end);
+  // What is in view of the map as it is shown; the shades go by the levels of the map; at most the
+  // greatest int on each side. Rows that stay in view are kept.
+  void SetView(const PixelRect& view, const MapLook& look = {});
 
-  // Writes the pixels of `area`, which lies in the picture, row after row, as RowCanvas gives them.
-  void Render(const PixelRect& area, const RubberBand& rubber, std::span<std::uint32_t> pixels);
+  // Writes the pixels of `area`, which lies in the view, row after row, as RowCanvas gives them.
+  void Render(const PixelRect& area, const RubberBand& rubber, std::span<Pixel> pixels);
 
-  // The area of an object grown by what labels, as they were drawn up to now or are to be drawn,
-  // reach out of such areas.
+  // Where the area of an object is shown, grown by what labels, as they were drawn up to now or are
+  // to be drawn, reach out of such areas. With what else a change of the list shows: other shades,
+  // other labels taken away.
   PixelRect WithLabels(const PixelRect& area);
 
  private:
   struct Shown {
     const TDepthObj* object = nullptr;
     const LevelLabel* label = nullptr;
+    PixelPoint labelPlace;
     PixelRect box;
+    bool hasLabel = true;
   };
   struct Layers {
     bool made = false;
+    RowCanvas labels;  // of shaded views, where they lie above all objects
     RowCanvas above;
     RowCanvas below;
   };
-  // How far labels reach from the top left corner of an object's rectangle.
+  // How far labels reach, in shown pixels, from the top left corner of an object's rectangle.
   struct LabelReach {
     std::int64_t left = 0;
     std::int64_t up = 0;
@@ -57,18 +60,25 @@ class MapPicture {
     std::int64_t down = 0;
   };
 
+  Shown Show(const TDepthObj& object);
   void FollowList();
-  void IncludeLabel(const TDepthObj& object, const LevelLabel& label);
-  const Layers& LayersAt(int y);
-  static void PaintRow(RowCanvas& canvas, const Shown& shown, std::int64_t y);
+  void IncludeLabel(const Shown& shown);
+  // Takes labels away where others lie above them.
+  static void ThinLabels(std::vector<Shown>& objects);
+  // The box around the labels that come or go.
+  PixelRect ChangedLabels();
+  const Layers& LayersAt(std::int64_t y);
+  void PaintShown(RowCanvas& canvas, const Shown& shown, std::int64_t y) const;
+  void PaintGrid(const PixelRect& area, std::int64_t y, std::span<Pixel> pixels) const;
 
   const TDepthList& list_;
   LevelLabels& labels_;
-  int width_ = 0;
-  std::vector<Layers> rows_;
-  int keptFirst_ = 0;
-  int keptEnd_ = 0;
+  MapLook look_;
+  PixelRect view_;
+  std::vector<Layers> rows_;  // of the view
   LabelReach reach_;
+  std::vector<PixelRect> labelBoxes_;  // of shaded views, in some order
+  PixelRect stale_;                    // shown otherwise since the last WithLabels()
 
   // Of the list's edition `edition_`, if there is any yet.
   bool follows_ = false;

@@ -1,6 +1,7 @@
 #include "depthmap/row_canvas.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstddef>
 
 namespace plenovia {
@@ -10,18 +11,33 @@ namespace {
 constexpr std::int64_t kBits = 64;
 constexpr std::uint64_t kAll = ~std::uint64_t{0};
 
+// Calls visit(first, end) for each run of ones.
+template <class Visit>
+void ForEachRun(std::uint64_t bits, Visit visit) {
+  while (bits != 0) {
+    const int first = std::countr_zero(bits);
+    const int length = std::countr_one(bits >> first);
+    visit(static_cast<std::size_t>(first), static_cast<std::size_t>(first + length));
+    if (first + length == kBits) return;
+    bits &= kAll << (first + length);
+  }
+}
+
 }  // namespace
 
-RowCanvas::RowCanvas(int width)
-    : width_(width), words_(static_cast<std::size_t>((width + kBits - 1) / kBits)) {
-  if (width % kBits != 0) words_.back().painted = kAll << (width % kBits);
+RowCanvas::RowCanvas(const Span& columns)
+    : columns_(columns),
+      painted_(static_cast<std::size_t>((columns.right - columns.left + kBits - 1) / kBits)),
+      pixels_(painted_.size() * kBits) {
+  const std::int64_t over = (columns.right - columns.left) % kBits;
+  if (over != 0) painted_.back() = kAll << over;
 }
 
 // Calls visit(number of a word, mask of its columns) until one call is true.
 template <class Visit>
 bool RowCanvas::AnyWord(Span columns, Visit visit) const {
-  const std::int64_t left = std::max<std::int64_t>(columns.left, 0);
-  const std::int64_t right = std::min<std::int64_t>(columns.right, width_);
+  const std::int64_t left = std::max(columns.left, columns_.left) - columns_.left;
+  const std::int64_t right = std::min(columns.right, columns_.right) - columns_.left;
   if (left >= right) return false;
   const std::int64_t last = (right - 1) / kBits;
   for (std::int64_t i = left / kBits; i <= last; ++i) {
@@ -33,47 +49,44 @@ bool RowCanvas::AnyWord(Span columns, Visit visit) const {
   return false;
 }
 
-void RowCanvas::Paint(const Span& columns, Ink ink) {
+void RowCanvas::Paint(const Span& columns, Pixel colour) {
   AnyWord(columns, [&](std::size_t i, std::uint64_t mask) {
-    Word& word = words_[i];
-    if (ink == Ink::kBlack) word.black |= mask & ~word.painted;
-    word.painted |= mask;
+    const std::span word = std::span(pixels_).subspan(i * kBits, kBits);
+    ForEachRun(mask & ~painted_[i], [&](std::size_t first, std::size_t end) {
+      std::ranges::fill(word.subspan(first, end - first), colour);
+    });
+    painted_[i] |= mask;
     return false;
   });
 }
 
-void RowCanvas::Paint(const RowSpans& columns, Ink ink) {
-  for (const Span& span : columns) Paint(span, ink);
+void RowCanvas::Paint(const RowSpans& columns, Pixel colour) {
+  for (const Span& span : columns) Paint(span, colour);
 }
 
 void RowCanvas::Paint(const RowCanvas& behind) {
-  for (std::size_t i = 0; i < words_.size(); ++i) {
-    words_[i].black |= behind.words_[i].black & ~words_[i].painted;
-    words_[i].painted |= behind.words_[i].painted;
+  for (std::size_t i = 0; i < painted_.size(); ++i) {
+    const std::span word = std::span(pixels_).subspan(i * kBits, kBits);
+    const std::span from = std::span(behind.pixels_).subspan(i * kBits, kBits);
+    ForEachRun(behind.painted_[i] & ~painted_[i], [&](std::size_t first, std::size_t end) {
+      std::ranges::copy(from.subspan(first, end - first), word.subspan(first).begin());
+    });
+    painted_[i] |= behind.painted_[i];
   }
 }
 
 bool RowCanvas::IsFull() const {
-  return std::all_of(words_.begin(), words_.end(),
-                     [](const Word& word) { return word.painted == kAll; });
+  return std::ranges::all_of(painted_, [](std::uint64_t word) { return word == kAll; });
 }
 
 bool RowCanvas::HasRoom(const Span& columns) const {
-  return AnyWord(columns, [this](std::size_t i, std::uint64_t mask) {
-    return (mask & ~words_[i].painted) != 0;
-  });
+  return AnyWord(columns,
+                 [this](std::size_t i, std::uint64_t mask) { return (mask & ~painted_[i]) != 0; });
 }
 
-void RowCanvas::Read(int first, std::span<std::uint32_t> pixels) const {
-  std::size_t column = static_cast<std::size_t>(first);
-  for (std::uint32_t& pixel : pixels) {
-    const Word& word = words_[column / kBits];
-    const std::size_t bit = column % kBits;
-    const bool black = (word.black >> bit & 1) != 0;
-    const bool painted = (word.painted >> bit & 1) != 0;
-    pixel = black ? kBlackPixel : painted ? kWhitePixel : kNothingPixel;
-    ++column;
-  }
+void RowCanvas::Read(std::int64_t first, std::span<Pixel> pixels) const {
+  const auto from = static_cast<std::size_t>(first - columns_.left);
+  std::ranges::copy(std::span(pixels_).subspan(from, pixels.size()), pixels.begin());
 }
 
 }  // namespace plenovia

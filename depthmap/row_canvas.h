@@ -1,4 +1,4 @@
-// One row of a picture in black and white, painted from front to back.
+// One row of a picture, painted from front to back.
 #pragma once
 
 #include <cstdint>
@@ -9,25 +9,27 @@
 
 namespace plenovia {
 
-enum class Ink { kBlack, kWhite };
+// 0xAARRGGBB
+using Pixel = std::uint32_t;
 
-// Pixels as 0xAARRGGBB; nothing shows the ground behind the picture.
-inline constexpr std::uint32_t kBlackPixel = 0xFF000000;
-inline constexpr std::uint32_t kWhitePixel = 0xFFFFFFFF;
-inline constexpr std::uint32_t kNothingPixel = 0;
+inline constexpr Pixel kBlackPixel = 0xFF000000;
+inline constexpr Pixel kWhitePixel = 0xFFFFFFFF;
+inline constexpr Pixel kNothingPixel = 0;  // the ground behind the picture
 
 // What is painted first stays: later paint only fills columns that are still free. Columns outside
-// of 0..width-1 are left out.
+// of its own are left out.
 class RowCanvas {
  public:
   RowCanvas() = default;
-  explicit RowCanvas(int width);
+  // The columns left..right-1.
+  explicit RowCanvas(const Span& columns);
+  explicit RowCanvas(int width) : RowCanvas(Span{0, width}) {}
 
-  int width() const { return width_; }
+  const Span& columns() const { return columns_; }
 
-  void Paint(const Span& columns, Ink ink);
-  void Paint(const RowSpans& columns, Ink ink);
-  // Everything that was painted on another canvas of the same width.
+  void Paint(const Span& columns, Pixel colour);
+  void Paint(const RowSpans& columns, Pixel colour);
+  // Everything that was painted on another canvas of the same columns.
   void Paint(const RowCanvas& behind);
 
   bool IsFull() const;
@@ -35,20 +37,15 @@ class RowCanvas {
   bool HasRoom(const Span& columns) const;
 
   // The pixels of the columns first, first + 1, ..., all of them on the canvas.
-  void Read(int first, std::span<std::uint32_t> pixels) const;
+  void Read(std::int64_t first, std::span<Pixel> pixels) const;
 
  private:
-  // 64 columns, the lowest bit first. Those behind the width count as painted.
-  struct Word {
-    std::uint64_t painted = 0;
-    std::uint64_t black = 0;
-  };
-
   template <class Visit>
   bool AnyWord(Span columns, Visit visit) const;
 
-  int width_ = 0;
-  std::vector<Word> words_;
+  Span columns_;
+  std::vector<std::uint64_t> painted_;  // 64 columns each, the lowest bit first; those behind count
+  std::vector<Pixel> pixels_;           // kNothingPixel where nothing is painted; whole words
 };
 
 }  // namespace plenovia

@@ -65,14 +65,17 @@ PixelRect RubberBand::Area() const {
   return box;
 }
 
-void RubberBand::PaintRow(RowCanvas& canvas, std::int64_t y) const {
+void RubberBand::PaintRow(RowCanvas& canvas, std::int64_t y, const MapLook& look) const {
   if (!IsActive()) return;
-  if (!IsPolygon() || closed_) PaintOutlineRow(canvas, *shape_, y);
+  const MapScale& scale = look.scale;
+  const Pixel colour = MarkPixel(look);
+  if (!IsPolygon() || closed_) PaintOutlineRow(canvas, *shape_, y, scale, colour);
+  const auto draw = [&](const DepthPoint& a, const DepthPoint& b) {
+    PaintLineRow(canvas, scale.ShownMiddle(a), scale.ShownMiddle(b), y, colour);
+  };
   const auto vertices = Vertices();
-  for (std::size_t i = 1; i < vertices.size(); ++i) {
-    PaintLineRow(canvas, vertices[i - 1], vertices[i], y);
-  }
-  if (line_) PaintLineRow(canvas, line_->from, line_->to, y);
+  for (std::size_t i = 1; i < vertices.size(); ++i) draw(vertices[i - 1], vertices[i]);
+  if (line_) draw(line_->from, line_->to);
 }
 
 }  // namespace plenovia

@@ -7,6 +7,7 @@
 #include <span>
 
 #include "depthmap/depth_obj.h"
+#include "depthmap/map_look.h"
 #include "depthmap/row_canvas.h"
 
 namespace plenovia {
@@ -32,9 +33,10 @@ class RubberBand {
   // Shows a polygon as it would be if it were finished now.
   void SetClosed(bool closed) { closed_ = closed; }
 
-  // Everything that is shown lies in here; empty when nothing is.
+  // Where on the map everything lies that is shown; empty when nothing is.
   PixelRect Area() const;
-  void PaintRow(RowCanvas& canvas, std::int64_t y) const;
+  // Row `y` of the map as it is shown.
+  void PaintRow(RowCanvas& canvas, std::int64_t y, const MapLook& look = {}) const;
 
  private:
   struct Line {

@@ -166,8 +166,9 @@ TEST_F(FrameTest, AvailabilityFollowsTheActiveWindow) {
   EXPECT_FALSE(Available(kCmZoomOut));
 
   CmFileNew(Frame().Context());
-  EXPECT_EQ(available(looked), (std::set<int>{kCmNew, kCmOpen, kCmSave, kCmSaveAs, kCmExit,
-                                              kCmGrayImage, kCmMakeSirds, kCmTile, 1251}));
+  EXPECT_EQ(available(looked),
+            (std::set<int>{kCmNew, kCmOpen, kCmSave, kCmSaveAs, kCmExit, kCmGrayImage, kCmZoomIn,
+                           kCmZoomOut, kCmMakeSirds, kCmTile, 1251}));
 }
 
 TEST_F(FrameTest, StatusBarTellsAboutTheActivePicture) {

@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kWidth = 150;  // not whole words
 constexpr int kHeight = 50;
+constexpr PixelRect kAll{0, 0, kWidth, kHeight};
 
 // The wider, the greater the level.
 class TestLabels final : public LevelLabels {
@@ -103,7 +104,7 @@ std::unique_ptr<TDepthObj> RandomObject(Random& random) {
 
 std::vector<std::uint32_t> Rendered(MapPicture& picture, const RubberBand& rubber = {}) {
   std::vector<std::uint32_t> pixels(std::size_t{kWidth} * kHeight);
-  picture.Render({0, 0, kWidth, kHeight}, rubber, pixels);
+  picture.Render(kAll, rubber, pixels);
   return pixels;
 }
 
@@ -117,7 +118,7 @@ TEST(MapPicture, FollowsEveryEditToThePixel) {
   TDepthList list(120, 40);
   for (int i = 0; i < 6; ++i) list.AddObject(RandomObject(random));
   MapPicture picture(list, labels);
-  picture.SetSize(kWidth, kHeight);
+  picture.SetView(kAll);
   for (int step = 0; step < 120; ++step) {
     list.SetCurrentLevel(step % 256);
     const TDepthObj* hit = list.ObjectAt(random.Int(0, 119), random.Int(0, 39));
@@ -180,7 +181,7 @@ TEST(MapPicture, RubberBandLiesAboveAllAndInItsArea) {
   TestLabels labels;
   TDepthList list(kWidth, kHeight);
   MapPicture picture(list, labels);
-  picture.SetSize(kWidth, kHeight);
+  picture.SetView(kAll);
   const auto plain = Rendered(picture);
 
   RubberBand box;
@@ -210,6 +211,90 @@ TEST(MapPicture, RubberBandLiesAboveAllAndInItsArea) {
   }
   box.Stop();
   EXPECT_EQ(Rendered(picture, box), plain);
+}
+
+// No labels at all.
+class NoLabels final : public LevelLabels {
+ public:
+  const LevelLabel& Label(std::int32_t) override { return label_; }
+
+ private:
+  LevelLabel label_;
+};
+
+TEST(MapPicture, ShadedShowsTheLevelOfEveryPixelAtEachScale) {
+  Random random(9);
+  NoLabels labels;
+  TDepthList list(120, 40);
+  for (int i = 0; i < 12; ++i) {
+    auto object = RandomObject(random);
+    // A line is drawn whole where the map is reduced, not by its pixels.
+    if (object->GetKind() != LineObj) list.AddObject(std::move(object));
+  }
+  MapPicture picture(list, labels);
+  for (MapScale scale(-8); scale != scale.Larger(); scale = scale.Larger()) {
+    const PixelRect shown = scale.Shown(PixelRect{0, 0, 120, 40});
+    const PixelRect view{shown.right / 3, shown.bottom / 4, shown.right + 5, shown.bottom};
+    const auto width = static_cast<std::size_t>(view.right - view.left);
+    const auto size = width * static_cast<std::size_t>(view.bottom - view.top);
+    std::vector<std::uint32_t> shaded(size);
+    std::vector<std::uint32_t> both(size);
+    picture.SetView(view, {MapView::kShaded, scale});
+    picture.Render(view, {}, shaded);
+    picture.SetView(view, {MapView::kBoth, scale});
+    picture.Render(view, {}, both);
+    std::size_t edges = 0;
+    auto shade = shaded.begin();
+    auto edged = both.begin();
+    for (std::int64_t row = view.top; row < view.bottom; ++row) {
+      for (std::int64_t column = view.left; column < view.right; ++column, ++shade, ++edged) {
+        if (*shade != *edged) ++edges;
+        const int cell = scale.Times();
+        if (cell >= 8 && (row % cell == 0 || column % cell == 0)) continue;  // the grid
+        const auto x = static_cast<std::int32_t>(scale.MapPixel(column));
+        const auto y = static_cast<std::int32_t>(scale.MapPixel(row));
+        const TDepthObj* seen = list.ObjectAt(x, y);
+        const auto expected = seen != nullptr ? ShadeOf(seen->GetLevel()) : kNothingPixel;
+        ASSERT_EQ(*shade, expected) << x << "," << y << " at " << scale.Text();
+      }
+    }
+    EXPECT_GT(edges, size / 100) << scale.Text();
+    EXPECT_LT(edges, size * 2 / 3) << scale.Text();
+  }
+}
+
+TEST(MapPicture, LabelsOfAShadedViewLieAboveAllAndApart) {
+  TestLabels labels;
+  TDepthList list(kWidth, kHeight);
+  for (const DepthRect& box : {DepthRect{10, 2, 60, 40}, {12, 4, 90, 45}, {70, 2, 140, 40}}) {
+    list.AddObject(std::make_unique<TDepthObj>(nullptr, box, SquareBoxObj, 100));
+  }
+  MapPicture picture(list, labels);
+  picture.SetView(kAll, {MapView::kShaded, {}});
+  const auto pixels = Rendered(picture);
+  EXPECT_EQ(At(pixels, 70 + 6 - 8, 2 + 12), kWhitePixel);
+  EXPECT_EQ(At(pixels, 12 + 6 - 8, 4 + 12), kWhitePixel) << "above what covers it";
+  EXPECT_EQ(At(pixels, 12 + 6 + 8, 4 + 12), ShadeOf(100, 127)) << "where its right edge ends";
+  EXPECT_EQ(At(pixels, 10 + 6, 2 + 12 - 6), ShadeOf(100, 127)) << "no place for the lowest label";
+}
+
+TEST(MapScale, EachShownPixelIsOneOfTheMap) {
+  int steps = 0;
+  for (MapScale scale(-8);; scale = scale.Larger(), ++steps) {
+    for (std::int64_t pixel = -40; pixel <= 40; ++pixel) {
+      const std::int64_t edge = scale.ShownEdge(pixel);
+      EXPECT_GE(scale.MapPixel(edge), pixel) << scale.Text();
+      EXPECT_LT(scale.MapPixel(edge - 1), pixel) << scale.Text();
+      EXPECT_TRUE(scale.IsReduced() || scale.MapPixel(scale.ShownMiddle(pixel)) == pixel);
+    }
+    if (scale == scale.Larger()) break;
+    EXPECT_EQ(scale.Larger().Smaller(), scale);
+  }
+  EXPECT_EQ(steps, 12);
+  EXPECT_EQ(MapScale::Fitting(400, 300, 1000, 1000), MapScale(2));
+  EXPECT_EQ(MapScale::Fitting(4000, 300, 1000, 1000), MapScale(-4));
+  EXPECT_EQ(MapScale::Fitting(100000, 1, 10, 10), MapScale(-8));
+  EXPECT_EQ(MapScale(16).Text() + MapScale(-3).Text(), "1600 %1/3");
 }
 
 TEST(LevelChoice, StepsWrapAtBothEndsAndFromBeyond) {

@@ -12,9 +12,13 @@ constexpr bool IsDrawingTool(int id) {
 constexpr bool IsMapTool(int id) {
   return (id >= kSelectTool && id <= kApplyLevelTool) || IsDrawingTool(id);
 }
+constexpr bool IsMapViewCommand(int id) {
+  return id == kCmZoomIn || id == kCmZoomOut || id == kCmActualSize || id == kCmZoomToFit ||
+         id == kCmMapView;
+}
 constexpr bool IsMapCommand(int id) {
   return IsMapTool(id) || (id >= kSetLevel && id <= kDeleteObject) || id == kCmUndo ||
-         id == kCmRedo;
+         id == kCmRedo || IsMapViewCommand(id);
 }
 // What a drawing tool draws.
 constexpr DepthObjKind KindOfTool(int id) {

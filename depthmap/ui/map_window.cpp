@@ -104,12 +104,42 @@ void TMapWindow::SetTool(int id) {
 }
 
 void TMapWindow::ResizeToMap() {
-  const auto side = [](std::int64_t size) {
-    return static_cast<int>(std::clamp<std::int64_t>(size, 0, kGreatestSide));
-  };
-  extent_ = {side(list_->GetWidth()), side(list_->GetHeight())};
+  look_.scale = MapScale();
+  UpdateExtent();
   SetClientSize(extent_);
   SetScrollExtent(extent_);
+}
+
+void TMapWindow::UpdateExtent() {
+  const auto side = [this](std::int64_t size) {
+    const std::int64_t shown = look_.scale.ShownEdge(std::min(size, kGreatestSide));
+    return static_cast<int>(std::max<std::int64_t>(shown, 0));
+  };
+  extent_ = {side(list_->GetWidth()), side(list_->GetHeight())};
+}
+
+void TMapWindow::SetLook(const MapLook& look, const QPoint& stays) {
+  const QPointF place = QPointF(stays + ScrollPosition()) / look_.scale.Factor();
+  look_ = look;
+  UpdateExtent();
+  SetScrollExtent(extent_);
+  ScrollTo((place * look_.scale.Factor()).toPoint() - stays);
+  InvalidateAll();
+  Q_EMIT StateChanged();
+}
+
+void TMapWindow::Zoom(int steps, const QPoint& stays) {
+  MapLook look = look_;
+  for (; steps > 0; --steps) look.scale = look.scale.Larger();
+  for (; steps < 0; ++steps) look.scale = look.scale.Smaller();
+  SetLook(look, stays);
+}
+
+void TMapWindow::ZoomToFit() {
+  const QSize room = RoomWithoutBars();
+  const MapScale scale =
+      MapScale::Fitting(list_->GetWidth(), list_->GetHeight(), room.width(), room.height());
+  SetLook({look_.view, scale}, {});
 }
 
 Result<void> TMapWindow::Save(const QString& path) {
@@ -146,7 +176,18 @@ QString TMapWindow::CommandSubject(int command) const {
 }
 
 void TMapWindow::RunCommand(int command) {
+  const QPoint middle = QRect({}, ClientSize()).center();
   switch (command) {
+    case kCmZoomIn:
+      return Zoom(1, middle);
+    case kCmZoomOut:
+      return Zoom(-1, middle);
+    case kCmActualSize:
+      return SetLook({look_.view, MapScale()}, middle);
+    case kCmZoomToFit:
+      return ZoomToFit();
+    case kCmMapView:
+      return SetLook({NextView(look_.view), look_.scale}, middle);
     case kSetLevel:
       CmSetLevel();
       return;
@@ -202,9 +243,8 @@ MapPicture& TMapWindow::Painting() {
   }
   if (!picture_) picture_ = std::make_unique<MapPicture>(*list_, *labels_);
   const QRect view = View();
-  const QSize size = extent_.expandedTo({view.right() + 1, view.bottom() + 1});
-  picture_->SetSize(size.width(), size.height());
-  picture_->KeepRows(view.top(), view.bottom() + 1);
+  picture_->SetView(
+      {view.left(), view.top(), view.left() + view.width(), view.top() + view.height()}, look_);
   return *picture_;
 }
 
@@ -218,6 +258,12 @@ QRect TMapWindow::InClient(const PixelRect& area) const {
   const QPoint end(within(area.right, view.left(), view.width()),
                    within(area.bottom, view.top(), view.height()));
   return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
+}
+
+QPoint TMapWindow::TrackingPoint(const QPoint& client) const {
+  const QPoint shown = client + ScrollPosition();
+  const auto place = [this](int pixel) { return static_cast<int>(look_.scale.MapPixel(pixel)); };
+  return {place(shown.x()), place(shown.y())};
 }
 
 void TMapWindow::Paint(QPainter& painter, const QRect& exposed) {
@@ -239,7 +285,9 @@ void TMapWindow::Repaint(const PixelRect& area) {
 }
 
 void TMapWindow::InvalidateRubber() {
-  Invalidate(InClient(rubber_.Area()));
+  // Lines of a reduced map lie a pixel further.
+  const PixelRect area = look_.scale.Shown(rubber_.Area());
+  Invalidate(InClient({area.left - 1, area.top - 1, area.right + 1, area.bottom + 1}));
 }
 
 void TMapWindow::OnLButtonDown(MouseKeys, QPoint point) {

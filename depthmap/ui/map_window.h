@@ -24,7 +24,7 @@ struct DepthMapInfo {
 
 enum class DepthMapState { kWhole, kDamaged };
 
-// Shows the map, one pixel of it a pixel of the display. Scrolls where the map is larger.
+// Shows the map, at first one pixel of it a pixel of the display. Scrolls where the map is larger.
 class TMapWindow : public TMouseWnd, private DepthObjOwner {
   Q_OBJECT
 
@@ -59,7 +59,8 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   int CurrentTool() const { return tool_; }
   // Numbers that are no tool's are ignored.
   void SetTool(int id);
-  // Gives the window's inside the size of the map, as far as there is room.
+  const MapLook& Look() const { return look_; }
+  // Gives the window's inside the size of the map, one to one, as far as there is room.
   void ResizeToMap();
 
   bool HandlesCommand(int command) const override;
@@ -76,7 +77,8 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
  protected:
   void Paint(QPainter& painter, const QRect& exposed) override;
   void EvMDIActivate(bool active) override;
-  QPoint TrackingPoint(const QPoint& client) const override { return client + ScrollPosition(); }
+  QPoint TrackingPoint(const QPoint& client) const override;
+  void ZoomAbout(const QPoint& client, int steps) override { Zoom(steps, client); }
   void OnLButtonDown(MouseKeys keys, QPoint point) override;
   void OnLButtonUp(MouseKeys keys, QPoint point) override;
   void OnLButtonDblClk(MouseKeys keys, QPoint point) override;
@@ -87,8 +89,13 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
  private:
   void Repaint(const PixelRect& area) override;
   void SetList(std::shared_ptr<TDepthList> list);
+  // The point `stays` of the client area shows the same place of the map afterwards.
+  void SetLook(const MapLook& look, const QPoint& stays);
+  void Zoom(int steps, const QPoint& stays);
+  void ZoomToFit();
+  void UpdateExtent();
   MapPicture& Painting();
-  // What of the map is in view.
+  // What of the map, as it is shown, is in view.
   QRect View() const { return {ScrollPosition(), ClientSize()}; }
   QRect InClient(const PixelRect& area) const;
   void InvalidateRubber();
@@ -105,7 +112,8 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   std::unique_ptr<LevelLabelFont> labels_;
   std::unique_ptr<MapPicture> picture_;
   RubberBand rubber_;
-  QSize extent_;
+  MapLook look_;
+  QSize extent_;  // of the map as it is shown
   int tool_ = kSelectTool;
   bool knownSaved_ = false;
   std::optional<EditKind> knownUndo_;

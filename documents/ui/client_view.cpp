@@ -6,6 +6,7 @@
 #include <QStyle>
 #include <algorithm>
 
+#include "documents/ui/panning.h"
 #include "platform/ui/picture_painting.h"
 
 namespace plenovia {
@@ -19,6 +20,7 @@ TMouseWnd::ClientView::ClientView(TMouseWnd& window)
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   viewport()->setObjectName(QStringLiteral("viewport"));
+  new Panning(*this);
 }
 
 void TMouseWnd::ClientView::SetScrollExtent(const QSize& extent) {
@@ -29,9 +31,13 @@ void TMouseWnd::ClientView::SetScrollExtent(const QSize& extent) {
   viewport()->update();
 }
 
+QSize TMouseWnd::ClientView::Room() const {
+  return DevicePixels(*this, QRect(QPoint(), maximumViewportSize())).size();
+}
+
 void TMouseWnd::ClientView::UpdateRanges() {
   // What fits when both bars are gone needs none, though it does not fit beside them.
-  const QSize most = DevicePixels(*this, QRect(QPoint(), maximumViewportSize())).size();
+  const QSize most = Room();
   const bool fits = extent_.width() <= most.width() && extent_.height() <= most.height();
   const QSize client = fits ? most : DevicePixels(*viewport());
   const auto update = [](QScrollBar* bar, int extent, int page) {
@@ -65,6 +71,8 @@ bool TMouseWnd::ClientView::viewportEvent(QEvent* event) {
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
       return MouseEvent(*static_cast<QMouseEvent*>(event));
+    case QEvent::Wheel:
+      return WheelEvent(*static_cast<QWheelEvent*>(event));
     case QEvent::WindowBlocked:
       window_.EndLostTracks(Qt::NoButton);
       return QAbstractScrollArea::viewportEvent(event);
@@ -96,6 +104,16 @@ bool TMouseWnd::ClientView::MouseEvent(const QMouseEvent& event) {
   } else if (right) {
     window_.EvRButtonDown(keys, point);
   }
+  return true;
+}
+
+bool TMouseWnd::ClientView::WheelEvent(QWheelEvent& event) {
+  if (!(event.modifiers() & Qt::ControlModifier)) return QAbstractScrollArea::viewportEvent(&event);
+  event.accept();
+  wheelAngle_ += event.angleDelta().y();
+  const int steps = wheelAngle_ / QWheelEvent::DefaultDeltasPerStep;
+  wheelAngle_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+  if (steps != 0) window_.ZoomAbout(DevicePixelAt(*viewport(), event), steps);
   return true;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QWheelEvent>
 
 #include "documents/ui/mouse_wnd.h"
 
@@ -14,6 +15,8 @@ class TMouseWnd::ClientView : public QAbstractScrollArea {
 
   // In the display's pixels.
   void SetScrollExtent(const QSize& extent);
+  // Inside, in the display's pixels, when there are no bars.
+  QSize Room() const;
   // `client`, in Qt's units, with the bars that it needs where there is only this room.
   QSize WithBars(QSize client, const QSize& room) const;
 
@@ -26,11 +29,13 @@ class TMouseWnd::ClientView : public QAbstractScrollArea {
 
  private:
   bool MouseEvent(const QMouseEvent& event);
+  bool WheelEvent(QWheelEvent& event);
   void PaintClient(const QRect& exposed);
   void UpdateRanges();
 
   TMouseWnd& window_;
   QSize extent_;
+  int wheelAngle_ = 0;  // turned with Ctrl held and not yet a whole step
 };
 
 }  // namespace plenovia

@@ -15,6 +15,8 @@ enum Command {
   kCmPatterns = 111,
   kCmFullScreen = 112,
   kCmActualSize = 113,
+  kCmZoomToFit = 114,
+  kCmMapView = 115,
   kCmVideoInformation = 119,
   kCmStopProcess = 205,
   kCmCopy = 221,

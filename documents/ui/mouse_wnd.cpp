@@ -216,6 +216,10 @@ QPoint TMouseWnd::ScrollPosition() const {
   return {view_->horizontalScrollBar()->value(), view_->verticalScrollBar()->value()};
 }
 
+QSize TMouseWnd::RoomWithoutBars() const {
+  return view_->Room();
+}
+
 void TMouseWnd::ScrollTo(const QPoint& position) {
   view_->horizontalScrollBar()->setValue(position.x());
   view_->verticalScrollBar()->setValue(position.y());

@@ -62,6 +62,10 @@ class TMouseWnd : public Document {
   // The point that the operations below get for a point of the client area.
   virtual QPoint TrackingPoint(const QPoint& client) const { return client; }
 
+  // The wheel was turned with Ctrl held: `steps` larger, or smaller when below 0. What is seen at
+  // this point of the client area stays there.
+  virtual void ZoomAbout(const QPoint& /*client*/, int /*steps*/) {}
+
   virtual void EvLButtonDblClk(MouseKeys keys, QPoint point);
   virtual void EvLButtonDown(MouseKeys keys, QPoint point);
   virtual void EvLButtonUp(MouseKeys keys, QPoint point);
@@ -104,6 +108,8 @@ class TMouseWnd : public Document {
   // client area. Without a call there are none.
   void SetScrollExtent(const QSize& extent);
   QPoint ScrollPosition() const;
+  // The client area as it is without bars.
+  QSize RoomWithoutBars() const;
   // As far as the bars reach.
   void ScrollTo(const QPoint& position);
 

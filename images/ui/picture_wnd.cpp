@@ -73,6 +73,13 @@ void TPictureWnd::SetZoom(double zoom) {
   Q_EMIT StateChanged();
 }
 
+void TPictureWnd::ZoomAbout(const QPoint& client, int steps) {
+  const QPointF place = QPointF(client - Corner()) / zoom_;
+  for (; steps > 0; --steps) ZoomIn();
+  for (; steps < 0; ++steps) ZoomOut();
+  ScrollTo((place * zoom_).toPoint() - client);
+}
+
 void TPictureWnd::MakeGray() {
   if (!picture_) return;
   auto gray = std::make_shared<IndexedImage>(*picture_);

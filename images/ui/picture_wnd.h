@@ -71,6 +71,7 @@ class TPictureWnd : public TMouseWnd {
   void ClientResized() override;
   void EvMDIActivate(bool active) override;
   QPoint TrackingPoint(const QPoint& client) const override;
+  void ZoomAbout(const QPoint& client, int steps) override;
   void OnLButtonDown(MouseKeys keys, QPoint point) override;
   void LeftDrag(int x, int y) override;
   void customEvent(QEvent* event) override;

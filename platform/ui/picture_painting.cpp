@@ -29,7 +29,7 @@ QRect DevicePixels(const QWidget& widget, const QRect& area) {
   return QRectF(QPointF(area.topLeft()) * scale, QSizeF(area.size()) * scale).toAlignedRect();
 }
 
-QPoint DevicePixelAt(const QWidget& widget, const QMouseEvent& event) {
+QPoint DevicePixelAt(const QWidget& widget, const QSinglePointEvent& event) {
   constexpr qreal kRoundingError = 1e-3;
   const QPoint corner = widget.mapTo(widget.window(), QPoint());
   // The place in the widget is rounded to Qt's units when the event came through the window, whose

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <QImage>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPoint>
+#include <QPointerEvent>
 #include <QRect>
 #include <QWidget>
 
@@ -20,7 +20,7 @@ void UseDevicePixels(QPainter& painter);
 QSize DevicePixels(const QWidget& widget);
 QRect DevicePixels(const QWidget& widget, const QRect& area);
 // The pixel under the mouse, counted from where painting in the widget begins.
-QPoint DevicePixelAt(const QWidget& widget, const QMouseEvent& event);
+QPoint DevicePixelAt(const QWidget& widget, const QSinglePointEvent& event);
 
 // Where the picture at `zoom` is when its corner is at `corner`.
 QRect ZoomedPlace(const IndexedImage& picture, double zoom, const QPoint& corner);

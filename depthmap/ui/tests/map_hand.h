@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QWheelEvent>
 #include <string>
 #include <vector>
 
@@ -45,6 +46,16 @@ class MapHand {
     const QPointF inWindow = (QPointF(corner.toPoint()) + at) / scale;
     QMouseEvent event(type, at / scale, inWindow, View()->window()->mapToGlobal(inWindow), button,
                       buttons, keys);
+    QCoreApplication::sendEvent(View(), &event);
+  }
+  // Turns the wheel with Ctrl held.
+  void Wheel(QPointF at, int notches) {
+    const qreal scale = View()->devicePixelRatioF();
+    const QPointF corner = QPointF(View()->mapTo(View()->window(), QPoint())) * scale;
+    const QPointF inWindow = (QPointF(corner.toPoint()) + at) / scale;
+    QWheelEvent event(at / scale, View()->window()->mapToGlobal(inWindow), {},
+                      {0, notches * QWheelEvent::DefaultDeltasPerStep}, Qt::NoButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(View(), &event);
   }
   void Press(QPoint at, Qt::KeyboardModifiers keys = {}) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QScrollBar>
+#include <QtTest/QTest>
 #include <string>
 #include <utility>
 #include <vector>
@@ -58,6 +59,73 @@ TEST_F(MapWindow, AMapLargerThanTheDeskScrolls) {
   client->horizontalScrollBar()->setValue(scroll.x() + 33);
   client->verticalScrollBar()->setValue(20);
   ExpectScreenUpToDate("after scrolling");
+}
+
+TEST_F(MapWindow, ScreenShowsEveryChangeInEachViewAtEachZoom) {
+  const auto scroll = [&] {
+    const auto* client = window->findChild<QAbstractScrollArea*>(QStringLiteral("client"));
+    return QPoint(client->horizontalScrollBar()->value(), client->verticalScrollBar()->value());
+  };
+  Draw(kCircleTool, 9, {40, 30}, {220, 190});
+  Draw(kSquareBoxTool, 20, {120, 100}, {180, 150});
+  for (const int notches : {-4, 2, 3, 7}) {
+    window->RunCommand(kCmActualSize);
+    const QPoint pointer(150, 130);
+    Wheel(pointer, notches);
+    const MapScale scale = window->Look().scale;
+    window->RunCommand(kCmMapView);
+    ExpectScreenUpToDate("zooming to " + scale.Text());
+    const auto onMap = [&](QPoint shown) {
+      const QPoint place = shown + scroll();
+      return QPoint(static_cast<int>(scale.MapPixel(place.x())),
+                    static_cast<int>(scale.MapPixel(place.y())));
+    };
+    EXPECT_TRUE(scale.IsReduced() || onMap(pointer) == pointer) << scale.Text();
+
+    const QPoint from(31, 17);
+    const QPoint to(95, 77);
+    window->RunCommand(kRoundBoxTool);
+    Press(from);
+    Pull(to);
+    ExpectScreenUpToDate("a rubber band");
+    Release(to);
+    ExpectScreenUpToDate("a shape");
+    const auto [x1, y1, x2, y2] = window->Objects().Head()->GetRect();
+    EXPECT_EQ(QPoint(x1, y1), onMap(from)) << scale.Text();
+    EXPECT_EQ(QPoint(x2, y2), onMap(to)) << scale.Text();
+    window->RunCommand(kMoveTool);
+    Drag((from + to) / 2, to);
+    ExpectScreenUpToDate("a move");
+    window->RunCommand(kDeleteObject);
+    ExpectScreenUpToDate("a delete");
+    window->RunCommand(kPolygonTool);
+    Click(from);
+    Hover(to);
+    ExpectScreenUpToDate("a line to the mouse");
+    window->RunCommand(kLineTool);
+    Click(from);
+  }
+  Draw(kSquareBoxTool, 200, {10, 10}, {40, 40});
+  ExpectScreenUpToDate("all other shades");
+
+  // Moving what is shown.
+  window->RunCommand(kCmActualSize);
+  Wheel({200, 200}, 3);
+  const QPoint before = scroll();
+  Mouse(QEvent::MouseButtonPress, {200, 200}, Qt::MiddleButton, Qt::MiddleButton);
+  Mouse(QEvent::MouseMove, {190, 230}, Qt::NoButton, Qt::MiddleButton);
+  Mouse(QEvent::MouseButtonRelease, {190, 230}, Qt::MiddleButton, Qt::NoButton);
+  EXPECT_EQ(scroll() - before, QPoint(10, -30));
+  window->RunCommand(kSquareBoxTool);
+  const auto shapes = window->Objects().CountObjects();
+  QTest::keyPress(View()->parentWidget(), Qt::Key_Space);
+  Drag({200, 200}, {210, 170});
+  QTest::keyRelease(View()->parentWidget(), Qt::Key_Space);
+  EXPECT_EQ(scroll(), before);
+  EXPECT_EQ(window->Objects().CountObjects(), shapes) << "space pans with each tool";
+  window->RunCommand(kCmZoomToFit);
+  EXPECT_EQ(scroll(), QPoint());
+  EXPECT_EQ(window->Look().scale, MapScale());
 }
 
 TEST_F(MapWindow, EachToolDrawsItsShapeWithTheCornersOfTheDrag) {
