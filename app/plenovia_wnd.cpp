@@ -142,7 +142,6 @@ void TPlenoviaWnd::SetupWindow(const ProfileFile& settings) {
   LoadSettings(settings);
   state_->printer = std::make_unique<TPrinterInt>(QStringLiteral("PLENOVIA.EXE"));
   if (welcome_) welcome_->CloseAfterDelay();
-  UpdatePatternButton();
   PostPrivateMessage(this, WM_UPDATESTATUS);
   busy_->SetProcessState(true);
   ShowBusyCursor(*this, false);
@@ -180,15 +179,16 @@ void TPlenoviaWnd::BuildWindowList() {
 
 void TPlenoviaWnd::LoadSettings(const ProfileFile& settings) {
   const int start = settings.GetInt("Patterns", "Select", 0);
-  status_->repaint();
-  state_->patterns = std::make_unique<TSirdPatt>(
-      LoadPatterns(FindPatternFolders(ProgramFile()), start, [this](int done, int of, bool loaded) {
-        status_->SetMessage(tr("Loading Pattern No. %1").arg(done));
-        if (!loaded && welcome_) welcome_->close();
-        status_->SetProgress(static_cast<int>(std::int64_t{done} * 100 / of));
-      }));
-  status_->SetMessage({});
-  status_->SetProgress(0);
+  state_->patterns = OnDemand<TSirdPatt>([this, start] {
+    TSirdPatt patterns =
+        LoadPatterns(FindPatternFolders(ProgramFile()), start, [this](int done, int of, bool) {
+          status_->SetMessage(tr("Loading Pattern No. %1").arg(done));
+          status_->SetProgress(static_cast<int>(std::int64_t{done} * 100 / of));
+        });
+    status_->SetMessage({});
+    status_->SetProgress(0);
+    return patterns;
+  });
   state_->lastFormat = settings.GetInt("GRAPHICS", "Format", 1);
   state_->saveFormat = settings.GetInt("GRAPHICS", "SaveFormat", state_->saveFormat);
   state_->settings = LoadSirdsSettings(settings);
@@ -200,13 +200,15 @@ void TPlenoviaWnd::LoadSettings(const ProfileFile& settings) {
 void TPlenoviaWnd::SaveSettings() {
   settingsDelay_.stop();
   auto file = ProfileFile::Load(SettingsPath());
-  if (!file || !state_->patterns) return;
+  if (!file) return;
   const std::string before = file->Text();
   file->SetInt("Tools", "CntlBar", barLocation_);
   file->SetInt("GRAPHICS", "Format", state_->lastFormat);
   file->SetInt("GRAPHICS", "SaveFormat", state_->saveFormat);
-  file->SetInt("Patterns", "Select", state_->patterns->GetCurrentNumber());
-  file->SetInt("Patterns", "Count", state_->patterns->GetCount());
+  if (state_->patterns.IsMade()) {
+    file->SetInt("Patterns", "Select", state_->patterns->GetCurrentNumber());
+    file->SetInt("Patterns", "Count", state_->patterns->GetCount());
+  }
   StoreSirdsSettings(state_->settings, *file);
   state_->recentFiles.Store(*file);
   if (!state_->openFolder.isEmpty()) {
@@ -227,8 +229,17 @@ void TPlenoviaWnd::ShowBusyState() {
   commands_->Refresh();
 }
 
+void TPlenoviaWnd::LoadPatternsSoon() {
+  painted_ = true;
+  QTimer::singleShot(0, this, [this] {
+    state_->patterns.get();
+    UpdatePatternButton();
+  });
+}
+
 void TPlenoviaWnd::UpdatePatternButton() {
-  const auto pattern = state_->patterns ? state_->patterns->GetCurrentBitmap() : nullptr;
+  if (!state_->patterns.IsMade()) return;
+  const auto pattern = state_->patterns->GetCurrentBitmap();
   if (!pattern) return;
   mainBar_->SetFace(kCmPatterns,
                     PatternFace(*pattern, QSize(kMainBarPicture, kMainBarPicture),
@@ -246,6 +257,7 @@ bool TPlenoviaWnd::event(QEvent* event) {
     status_->SetHint(static_cast<QStatusTipEvent*>(event)->tip());
     return true;
   }
+  if (event->type() == QEvent::Paint && !painted_) LoadPatternsSoon();
   return QMainWindow::event(event);
 }
 

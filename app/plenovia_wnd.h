@@ -35,8 +35,8 @@ class TPlenoviaWnd : public QMainWindow {
   void InsertBars(int location);
   void PlaceMainBar(int location);
   int BarLocation() const { return barLocation_; }
-  // Fills the menu of figures, shows the frame, loads the settings and the patterns, and closes
-  // the start-up picture.
+  // Fills the menu of figures, shows the frame, loads the settings and closes the start-up picture.
+  // The patterns follow once the frame is painted, or when they are needed.
   void SetupWindow(const ProfileFile& settings);
 
   QMdiArea* Area() const { return &desk_->Area(); }
@@ -47,7 +47,7 @@ class TPlenoviaWnd : public QMainWindow {
   CommandContext& Context() { return context_; }
   TCStatusBar& Status() { return *status_; }
   TSirdsSettings& Settings() { return state_->settings; }
-  // Null until they are loaded.
+  // Null before the settings are loaded.
   TSirdPatt* Patterns() { return state_->patterns.get(); }
   int LastFormat() const { return state_->lastFormat; }
   void Adopt(Document& window) { desk_->Adopt(window); }
@@ -67,6 +67,7 @@ class TPlenoviaWnd : public QMainWindow {
   void LoadSettings(const ProfileFile& settings);
   // Writes what changed.
   void SaveSettings();
+  void LoadPatternsSoon();
   void UpdatePatternButton();
   void ShowBusyState();
   HelpWindow& Help();
@@ -84,6 +85,7 @@ class TPlenoviaWnd : public QMainWindow {
   QTimer settingsDelay_;
   QPointer<HelpWindow> help_;
   int barLocation_ = 0;
+  bool painted_ = false;
   bool leaves_ = false;  // as soon as no operation is left: every window agreed
 };
 

@@ -10,6 +10,7 @@
 #include "images/sird_patt.h"
 #include "images/ui/clipboard.h"
 #include "images/ui/printer_int.h"
+#include "platform/on_demand.h"
 
 namespace plenovia {
 
@@ -21,8 +22,9 @@ class ProgramState : public QObject {
 
   // The one record of stereogram parameters.
   TSirdsSettings settings;
-  // The pattern library; null until it is loaded.
-  std::unique_ptr<TSirdPatt> patterns;
+  // The pattern library, read from its files when it is first needed; null before the settings are
+  // loaded.
+  OnDemand<TSirdPatt> patterns;
   ClipboardPictures clipboard;
   // GraphicFormat of the file that was opened or saved last.
   int lastFormat = 1;

@@ -5,6 +5,7 @@
 #include <QPixmap>
 #include <QPixmapCache>
 #include <QPoint>
+#include <QResource>
 #include <QSvgRenderer>
 
 namespace plenovia {
@@ -30,15 +31,27 @@ QPoint HotSpot(int id) {
   }
 }
 
+// The picture of this size that the build has made of the drawing (resources/draw_pictures.cpp), or
+// a null image.
+QImage DrawnAhead(QStringView file, const QSize& size) {
+  const QResource rows(
+      QStringLiteral(":/drawn%1@%2x%3").arg(file.mid(1)).arg(size.width()).arg(size.height()));
+  if (rows.size() != qint64{4} * size.width() * size.height()) return {};
+  return {rows.data(), size.width(), size.height(), QImage::Format_ARGB32_Premultiplied};
+}
+
 }  // namespace
 
 QPixmap DrawnPicture(const QString& file, const QSize& size, qreal scaleFactor) {
   if (!QFile::exists(file)) return {};
-  QPixmap picture(size * scaleFactor);
-  picture.fill(Qt::transparent);
-  QPainter painter(&picture);
-  QSvgRenderer(file).render(&painter);
-  painter.end();
+  const QSize pixels = size * scaleFactor;
+  QPixmap picture = QPixmap::fromImage(DrawnAhead(file, pixels));
+  if (picture.isNull()) {
+    picture = QPixmap(pixels);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    QSvgRenderer(file).render(&painter);
+  }
   picture.setDevicePixelRatio(scaleFactor);
   return picture;
 }
