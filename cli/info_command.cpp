@@ -5,6 +5,7 @@
 
 #include "cli/commands.h"
 #include "cli/options.h"
+#include "cli/recipe.h"
 #include "cli/source.h"
 #include "codec/picture_format.h"
 
@@ -25,8 +26,14 @@ Outcome<void> Tell(const std::string& file) {
                  "objects: " + std::to_string(map->CountObjects()) + '\n');
   }
   const auto& picture = std::get<IndexedImage>(opened->source);
-  return Print(Lines(opened->format, picture.width(), picture.height()) +
-               "colours: " + std::to_string(picture.palette().size()) + '\n');
+  std::string lines = Lines(opened->format, picture.width(), picture.height()) +
+                      "colours: " + std::to_string(picture.palette().size()) + '\n';
+  if (!opened->comment.empty()) {
+    const auto recipe = ReadRecipe(opened->comment);
+    if (recipe) lines += RecipeLines(*recipe);
+    if (!recipe) Warn(file, recipe.error().message);
+  }
+  return Print(lines);
 }
 
 }  // namespace
@@ -37,7 +44,8 @@ void AddInfoCommand(CLI::App& program, Task& task) {
   AddOperand(*command, "FILE", *file, "A picture (" + ReadableNames() + ")\nor a depth map (.rds)");
   command->footer(
       "Prints lines such as \"format: GIF\", \"size: 640x480\" and \"colours: 256\" (the colours\n"
-      "of its palette); of a depth map \"format: RDS\", its size and \"objects: 7\".\n\n"
+      "of its palette); of a depth map \"format: RDS\", its size and \"objects: 7\". Of a\n"
+      "stereogram that has its recipe the source, the pattern and the options that made it.\n\n"
       "Example: sirds info scene.png");
   command->callback([&task, file] { task = [file] { return Tell(*file); }; });
 }

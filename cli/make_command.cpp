@@ -1,6 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <variant>
@@ -10,6 +11,7 @@
 #include "cli/options.h"
 #include "cli/output.h"
 #include "cli/pattern.h"
+#include "cli/recipe.h"
 #include "cli/source.h"
 #include "cli/source_options.h"
 #include "cli/terminal_monitor.h"
@@ -24,13 +26,15 @@ namespace {
 struct MakeOptions {
   std::string source;
   std::string out;
-  std::string pattern = "0";
+  std::string pattern;  // empty: that of `like`, or the first one
   std::string background;
   TSirdsSettings settings;
   RunOptions run;
   bool fit = false;
   ScanOptions scan;
   SourceOptions shape;
+  std::string like;       // a stereogram that the parameters are taken from
+  bool noRecipe = false;  // the result carries none
 };
 
 Outcome<void> CheckOptions(const MakeOptions& options) {
@@ -60,7 +64,8 @@ std::pair<LevelRange, SourceKind> LevelsIn(const Source& source, std::int32_t de
 // Fine levels have no range that they are made for, so they are fitted where none is given.
 Outcome<TSirdsSettings> FittedSettings(const Source& source, const MakeOptions& options) {
   TSirdsSettings settings = options.settings;
-  const bool rangeGiven = FirstGiven({options.scan.zmin, options.scan.zmax}) != nullptr;
+  const bool rangeGiven =
+      FirstGiven({options.scan.zmin, options.scan.zmax}) != nullptr || !options.like.empty();
   const bool fine = std::holds_alternative<FineImage>(source);
   if (!options.fit && (rangeGiven || !fine)) return settings;
   const auto [levels, kind] = LevelsIn(source, settings.depthSel);
@@ -73,26 +78,37 @@ Outcome<TSirdsSettings> FittedSettings(const Source& source, const MakeOptions& 
       .map([&] { return settings; });
 }
 
+Outcome<Tile> OpenTile(const MakeOptions& options, const std::optional<Recipe>& like) {
+  if (like && options.pattern.empty()) return OpenRecipePattern(*like, options.like);
+  return OpenPattern(options.pattern.empty() ? "0" : options.pattern, options.run.Threads());
+}
+
+struct Stereogram {
+  IndexedImage picture;
+  Recipe recipe;
+};
+
 // The stereogram of the source, which is released before this returns.
-Outcome<IndexedImage> MakeStereogram(const MakeOptions& options) {
+Outcome<Stereogram> MakeStereogram(const MakeOptions& options, const std::optional<Recipe>& like) {
   TerminalMonitor monitor(options.run.quiet);
   const auto source = OpenSource(options.source, options.shape, options.run.Threads(), monitor);
   if (!source) return tl::unexpected(source.error());
-  const auto pattern = OpenPattern(options.pattern, options.run.Threads());
-  if (!pattern) return tl::unexpected(pattern.error());
+  const auto tile = OpenTile(options, like);
+  if (!tile) return tl::unexpected(tile.error());
   IndexedImage background;
   if (!options.background.empty()) {
     auto picture = ReadPicture(options.background, options.run.Threads());
-    if (!picture) return picture;
+    if (!picture) return tl::unexpected(picture.error());
     background = std::move(*picture);
   }
 
   const auto settings = FittedSettings(*source, options);
   if (!settings) return tl::unexpected(settings.error());
-  const RunInput input{*pattern, *settings, monitor, options.run.Threads()};
+  const std::int32_t zoom = like ? like->source.zoom : 100;
+  const RunInput input{tile->picture, *settings, monitor, options.run.Threads()};
   Result<IndexedImage> result;
   if (const auto* picture = std::get_if<IndexedImage>(&*source)) {
-    result = MakeSirdFromBitmap(*picture, 1.0, input);
+    result = MakeSirdFromBitmap(*picture, zoom / 100.0, input);
   } else if (const auto* map = std::get_if<TDepthList>(&*source)) {
     result = MakeSirdFromDepthMap(*map, input);
   } else if (const auto* fine = std::get_if<FineImage>(&*source)) {
@@ -102,14 +118,39 @@ Outcome<IndexedImage> MakeStereogram(const MakeOptions& options) {
     result = MakeSirdFromFigure({_GetFigureLevel, code, &background, {}}, input);
   }
   if (!result) return Failed(options.out, result.error());
-  return std::move(*result);
+  RecipeSource told = RecipeSourceOf(options.source, *source);
+  told.background = options.background;
+  told.zoom = zoom;
+  told.shape = options.shape.Shape();
+  return Stereogram{std::move(*result),
+                    MakeRecipe(std::move(told), tile->file, tile->picture, *settings)};
 }
 
-Outcome<void> Make(const MakeOptions& options) {
+// Takes the parameters of a recipe. What the command line gives is set again after that.
+Outcome<void> TakeParameters(const Recipe& like, CLI::App& command, MakeOptions& options) {
+  options.settings = like.settings;
+  if (!options.shape.TakeShape(like.source.shape)) {
+    return Failed(options.like, {ErrorCode::kCorrupt, "The recipe in the file is damaged."});
+  }
+  for (CLI::Option* option : command.get_options()) {
+    if (option->count() > 0) option->run_callback();
+  }
+  return {};
+}
+
+Outcome<void> Make(CLI::App& command, MakeOptions& options) {
+  std::optional<Recipe> like;
+  if (!options.like.empty()) {
+    auto recipe = OpenRecipe(options.like, options.run.Threads());
+    if (!recipe) return tl::unexpected(recipe.error());
+    like = std::move(*recipe);
+    if (auto taken = TakeParameters(*like, command, options); !taken) return taken;
+  }
   if (auto checked = CheckOptions(options); !checked) return checked;
-  const auto stereogram = MakeStereogram(options);
-  if (!stereogram) return tl::unexpected(stereogram.error());
-  return WriteOutput(options.out, *stereogram, options.run.Threads());
+  const auto made = MakeStereogram(options, like);
+  if (!made) return tl::unexpected(made.error());
+  return WriteOutput(options.out, made->picture, options.run.Threads(),
+                     options.noRecipe ? "" : RecipeText(made->recipe));
 }
 
 }  // namespace
@@ -124,6 +165,11 @@ void AddMakeCommand(CLI::App& program, Task& task) {
                    "Background tile: a picture, or its number in the list\n"
                    "of 'sirds patterns' (default 0)")
       ->option_text("FILE|NUMBER");
+  command
+      ->add_option("--like", options->like,
+                   "A stereogram whose recipe gives the pattern and the\n"
+                   "parameters that no other option gives")
+      ->option_text("FILE");
   options->scan = AddScanOptions(*command, options->settings);
   command->add_flag("--fit", options->fit,
                     "When the depth range does not show all levels of the\n"
@@ -136,13 +182,18 @@ void AddMakeCommand(CLI::App& program, Task& task) {
                                         "Draw the figure into this picture instead of tiles;\n"
                                         "the result has its size and the pattern's colours")
                            ->option_text("PICTURE"),
-                       {SourceForm::kFigure});
+                       {SourceForm::kFigure}, SourceOptions::Kind::kOther);
+  command->add_flag("--no-recipe", options->noRecipe,
+                    "Do not write into the file what made it (PNG, GIF and\n"
+                    "JPEG files tell it; folders are never named)");
   AddRunOptions(*command, options->run);
   command->footer(
       "The stereogram has the size of its source. Look at it with the eyes parallel, as at\n"
       "something far behind it, until its two markers become three.\n\n"
       "Example: sirds make scene.png -o scene-3d.png --depth-by brightness --zmax 255");
-  command->callback([&task, options] { task = [options] { return Make(*options); }; });
+  command->callback([&task, command, options] {
+    task = [command, options] { return Make(*command, *options); };
+  });
 }
 
 }  // namespace plenovia

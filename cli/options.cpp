@@ -17,6 +17,8 @@ namespace {
 constexpr int kDeepest = 65535;
 constexpr std::size_t kHelpColumns = 56;  // beside the names of the options
 
+const Words kDepthBy = {{"color", kDepthByColor}, {"brightness", kDepthByBrightness}};
+
 std::string Quoted(const std::string& text) {
   return "'" + text + "'";
 }
@@ -124,8 +126,7 @@ Outcome<void> CheckDepthRange(const TSirdsSettings& settings) {
 }
 
 CLI::Option* AddDepthBy(CLI::App& command, TSirdsSettings& settings) {
-  return AddChoice(command, "--depth-by", settings.depthSel,
-                   {{"color", kDepthByColor}, {"brightness", kDepthByBrightness}},
+  return AddChoice(command, "--depth-by", settings.depthSel, kDepthBy,
                    "Level of a picture's pixel: its number in the\npalette or its brightness");
 }
 
@@ -151,6 +152,34 @@ const CLI::Option* FirstGiven(const std::vector<CLI::Option*>& options) {
   const auto given = std::find_if(options.begin(), options.end(),
                                   [](const CLI::Option* option) { return option->count() > 0; });
   return given == options.end() ? nullptr : *given;
+}
+
+std::string OptionsOf(const Recipe& recipe) {
+  const TSirdsSettings& settings = recipe.settings;
+  const RecipeKind kind = recipe.source.kind;
+  std::string options = "--scan " + std::string(ScanMethodOf(settings.scanMethod).name);
+  const auto add = [&options](const char* name, std::int32_t value) {
+    options += ' ' + std::string(name) + ' ' + std::to_string(value);
+  };
+  add("--gap", settings.gapValue);
+  add("--zmin", settings.zmin);
+  add("--zmax", settings.zmax);
+  if (kind == RecipeKind::kPicture) {
+    const auto by = std::ranges::find(kDepthBy, settings.depthSel, &Words::value_type::second);
+    options += " --depth-by " + by->first;
+  }
+  options += settings.marker != 0 ? " --markers" : " --no-markers";
+  if (kind == RecipeKind::kFigure || kind == RecipeKind::kFormula) {
+    add("--width", settings.w);
+    add("--height", settings.h);
+  }
+  if (kind == RecipeKind::kFigure) {
+    add("--dx", settings.dx);
+    add("--dy", settings.dy);
+    add("--da", settings.da);
+  }
+  if (!recipe.source.shape.empty()) options += ' ' + recipe.source.shape;
+  return options;
 }
 
 void AddOperand(CLI::App& command, const std::string& name, std::string& value,

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "cli/outcome.h"
+#include "engine/recipe.h"
 #include "engine/sirds_settings.h"
 
 namespace CLI {
@@ -58,6 +59,9 @@ struct RunOptions {
   int Threads() const;
 };
 void AddRunOptions(CLI::App& command, RunOptions& options);
+
+// The options that a recipe stands for, as one would type them.
+std::string OptionsOf(const Recipe& recipe);
 
 // SOURCE, PICTURE and the like: a required word without a dash.
 void AddOperand(CLI::App& command, const std::string& name, std::string& value,

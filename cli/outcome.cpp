@@ -7,20 +7,16 @@
 #include <utility>
 
 namespace plenovia {
-namespace {
 
-// The line with a "?" for each control character, so that it cannot steer a terminal.
-std::string Sanitised(std::string line) {
-  for (std::size_t i = 0; i < line.size(); ++i) {
-    const auto c = static_cast<unsigned char>(line[i]);
-    if (c < 32 || c == 127) line[i] = '?';
+std::string Printable(std::string text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto c = static_cast<unsigned char>(text[i]);
+    if (c < 32 || c == 127) text[i] = '?';
     // U+0080 to U+009F, which terminals obey too, in UTF-8.
-    if (c >= 0x80 && c < 0xa0 && i > 0 && line[i - 1] == '\xc2') line.replace(i - 1, 2, "??");
+    if (c >= 0x80 && c < 0xa0 && i > 0 && text[i - 1] == '\xc2') text.replace(i - 1, 2, "??");
   }
-  return line;
+  return text;
 }
-
-}  // namespace
 
 tl::unexpected<Complaint> Failed(const std::string& subject, const Error& error) {
   return tl::unexpected<Complaint>({ExitStatus::kFailed, subject + ": " + error.message});
@@ -31,7 +27,7 @@ tl::unexpected<Complaint> WrongUsage(std::string message) {
 }
 
 void Report(const Complaint& complaint) {
-  std::fputs((Sanitised("sirds: " + complaint.message) + '\n').c_str(), stderr);
+  std::fputs((Printable("sirds: " + complaint.message) + '\n').c_str(), stderr);
 }
 
 void Warn(const std::string& file, const std::string& what) {

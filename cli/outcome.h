@@ -22,6 +22,9 @@ using Outcome = tl::expected<T, Complaint>;
 tl::unexpected<Complaint> Failed(const std::string& subject, const Error& error);
 tl::unexpected<Complaint> WrongUsage(std::string message);
 
+// The text with a "?" for each control character, so that it cannot steer a terminal.
+std::string Printable(std::string text);
+
 // One line on standard error that begins with "sirds: ". The text is sanitised: control characters
 // become "?".
 void Report(const Complaint& complaint);

@@ -37,9 +37,11 @@ void AddOutput(CLI::App& command, std::string& out, OutputKind kind) {
       ->check(check);
 }
 
-Outcome<void> WriteOutput(const std::string& out, const IndexedImage& picture, int threads) {
-  const auto encoded =
-      IsPgm(out) ? EncodePgm(picture) : EncodePicture(FormatOfExtension(out), picture, threads);
+Outcome<void> WriteOutput(const std::string& out, const IndexedImage& picture, int threads,
+                          const std::string& comment) {
+  const auto encoded = IsPgm(out)
+                           ? EncodePgm(picture)
+                           : EncodePicture(FormatOfExtension(out), picture, threads, comment);
   if (!encoded) return Failed(out, encoded.error());
   if (StopSignalCame()) return Failed(out, {ErrorCode::kCancelled, "The run was stopped."});
   const auto written = WriteFile(out, encoded->pieces());

@@ -22,8 +22,9 @@ void AddOutput(CLI::App& command, std::string& out, OutputKind kind);
 
 // Writes the picture in the format that the extension names; the pixels of a .pgm are the grays.
 // A file that was there is replaced in one step, or stays as it was when anything fails. Nothing is
-// written once a stop signal came. At most `threads` work.
+// written once a stop signal came. At most `threads` work. `comment` is the program's own
+// (codec/picture_comment.h).
 [[nodiscard]] Outcome<void> WriteOutput(const std::string& out, const IndexedImage& picture,
-                                        int threads);
+                                        int threads, const std::string& comment = {});
 
 }  // namespace plenovia

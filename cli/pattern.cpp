@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 #include "cli/source.h"
 
@@ -13,10 +14,20 @@ Outcome<std::vector<PatternFile>> PatternLibrary() {
   return Failed("sirdspat", {ErrorCode::kIo, "The folder of the patterns is not installed."});
 }
 
-Outcome<IndexedImage> OpenPattern(const std::string& text, int threads) {
+namespace {
+
+Outcome<Tile> ReadTile(const std::string& file, int threads) {
+  return ReadPicture(file, threads).map([&](IndexedImage&& picture) {
+    return Tile{std::move(picture), file};
+  });
+}
+
+}  // namespace
+
+Outcome<Tile> OpenPattern(const std::string& text, int threads) {
   const bool digits = !text.empty() && std::all_of(text.begin(), text.end(),
                                                    [](char c) { return c >= '0' && c <= '9'; });
-  if (!digits) return ReadPicture(text, threads);
+  if (!digits) return ReadTile(text, threads);
   const auto library = PatternLibrary();
   if (!library) return tl::unexpected(library.error());
   int number = -1;
@@ -26,7 +37,7 @@ Outcome<IndexedImage> OpenPattern(const std::string& text, int threads) {
   if (file == library->end()) {
     return WrongUsage("there is no pattern " + text + "; 'sirds patterns' lists them");
   }
-  return ReadPicture(file->path.string(), threads);
+  return ReadTile(file->path.string(), threads);
 }
 
 }  // namespace plenovia

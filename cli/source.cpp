@@ -1,5 +1,7 @@
 #include "cli/source.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -20,11 +22,11 @@ Outcome<TDepthList> DecodeMap(const std::string& file, const ByteBuffer& bytes) 
   return std::move(contents->list);
 }
 
-Outcome<IndexedImage> Decode(const std::string& file, const ByteBuffer& bytes, int threads) {
+Outcome<DecodedPicture> Decode(const std::string& file, const ByteBuffer& bytes, int threads) {
   auto picture = DecodePicture(bytes, threads);
   if (!picture) return Failed(file, picture.error());
   if (!picture->damage.empty()) Warn(file, picture->damage);
-  return IndexedImage(std::move(*picture));
+  return std::move(*picture);
 }
 
 Outcome<Source> OpenFigure(const std::string& name, const SourceOptions&, int, RunMonitor&) {
@@ -46,13 +48,21 @@ Outcome<Source> OpenFormula(const std::string& text, const SourceOptions& option
 struct SourceOpener {
   std::string_view prefix;
   SourceForm form;
+  RecipeKind kind;
   Outcome<Source> (*open)(const std::string& text, const SourceOptions& options, int threads,
                           RunMonitor& monitor);
 };
 constexpr SourceOpener kOpeners[] = {
-    {"figure:", SourceForm::kFigure, OpenFigure},
-    {"formula:", SourceForm::kFormula, OpenFormula},
+    {"figure:", SourceForm::kFigure, RecipeKind::kFigure, OpenFigure},
+    {"formula:", SourceForm::kFormula, RecipeKind::kFormula, OpenFormula},
 };
+
+// The one whose prefix the text has, or null.
+const SourceOpener* OpenerOf(const std::string& text) {
+  const auto opener = std::ranges::find_if(
+      kOpeners, [&](const SourceOpener& each) { return text.starts_with(each.prefix); });
+  return opener == std::end(kOpeners) ? nullptr : opener;
+}
 
 }  // namespace
 
@@ -64,14 +74,11 @@ std::string SourceHelp() {
 
 Outcome<Source> OpenSource(const std::string& text, const SourceOptions& options, int threads,
                            RunMonitor& monitor) {
-  const auto colon = text.find(':');
-  const std::string_view prefix = std::string_view(text).substr(0, colon + 1);
-  for (const SourceOpener& opener : kOpeners) {
-    if (colon == std::string::npos || prefix != opener.prefix) continue;
-    if (auto checked = options.Check(opener.form); !checked) {
+  if (const SourceOpener* opener = OpenerOf(text)) {
+    if (auto checked = options.Check(opener->form); !checked) {
       return tl::unexpected(checked.error());
     }
-    return opener.open(text.substr(colon + 1), options, threads, monitor);
+    return opener->open(text.substr(opener->prefix.size()), options, threads, monitor);
   }
   auto opened = OpenFile(text, threads);
   if (!opened) return tl::unexpected(opened.error());
@@ -88,17 +95,32 @@ Outcome<OpenedFile> OpenFile(const std::string& file, int threads) {
   if (LooksLikeDepthMap(*bytes)) {
     auto map = DecodeMap(file, *bytes);
     if (!map) return tl::unexpected(map.error());
-    return OpenedFile{std::move(*map), "RDS"};
+    return OpenedFile{std::move(*map), "RDS", {}};
   }
   auto picture = Decode(file, *bytes, threads);
   if (!picture) return tl::unexpected(picture.error());
-  return OpenedFile{std::move(*picture), std::string(FormatName(DetectFormat(*bytes)))};
+  std::string comment = std::move(picture->comment);
+  return OpenedFile{IndexedImage(std::move(*picture)),
+                    std::string(FormatName(DetectFormat(*bytes))), std::move(comment)};
+}
+
+RecipeSource RecipeSourceOf(const std::string& text, const Source& source) {
+  if (const auto* figure = std::get_if<Figure>(&source)) {
+    return {RecipeKind::kFigure, FigureList().titles()[static_cast<std::size_t>(figure->number)]};
+  }
+  if (const SourceOpener* opener = OpenerOf(text)) {
+    return {opener->kind, text.substr(opener->prefix.size())};
+  }
+  const bool isMap = std::holds_alternative<TDepthList>(source);
+  return {isMap ? RecipeKind::kDepthMap : RecipeKind::kPicture, text};
 }
 
 Outcome<IndexedImage> ReadPicture(const std::string& file, int threads) {
   const auto bytes = ReadFile(file);
   if (!bytes) return Failed(file, bytes.error());
-  return Decode(file, *bytes, threads);
+  return Decode(file, *bytes, threads).map([](DecodedPicture&& picture) -> IndexedImage {
+    return std::move(picture);
+  });
 }
 
 }  // namespace plenovia

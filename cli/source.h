@@ -8,6 +8,7 @@
 #include "cli/outcome.h"
 #include "cli/source_options.h"
 #include "depthmap/depth_list.h"
+#include "engine/recipe.h"
 #include "engine/run_monitor.h"
 #include "platform/fine_image.h"
 #include "platform/indexed_image.h"
@@ -30,7 +31,8 @@ std::string SourceHelp();
 // read, with a warning; `threads` may work on it, or one a processor when that is 0.
 struct OpenedFile {
   Source source;
-  std::string format;  // such as "GIF"; "RDS" for a depth map
+  std::string format;   // such as "GIF"; "RDS" for a depth map
+  std::string comment;  // the program's own (codec/picture_comment.h)
 };
 [[nodiscard]] Outcome<OpenedFile> OpenFile(const std::string& file, int threads = 0);
 
@@ -39,6 +41,9 @@ struct OpenedFile {
 // that is not for it.
 [[nodiscard]] Outcome<Source> OpenSource(const std::string& text, const SourceOptions& options,
                                          int threads, RunMonitor& monitor);
+
+// What a recipe tells of a source that OpenSource() gave for this text.
+RecipeSource RecipeSourceOf(const std::string& text, const Source& source);
 
 // Reads a picture of any format that the program knows, as OpenFile() does.
 [[nodiscard]] Outcome<IndexedImage> ReadPicture(const std::string& file, int threads = 0);

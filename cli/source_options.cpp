@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <sstream>
 #include <utility>
 
 #include "cli/options.h"
@@ -42,22 +43,23 @@ void SourceOptions::AddTo(CLI::App& command, TSirdsSettings& settings) {
   settings_ = &settings;
   sizes_ = {AddNumber(command, "--width", settings.w, 1, kFarthest, "Width of the picture"),
             AddNumber(command, "--height", settings.h, 1, kFarthest, "Height of the picture")};
-  for (CLI::Option* size : sizes_) Limit(size, {kFigure, kFormula});
+  for (CLI::Option* size : sizes_) Limit(size, {kFigure, kFormula}, Kind::kOther);
   Limit(AddNumber(command, "--dx", settings.dx, -kFarthest, kFarthest, "Pixels to the right"),
-        {kFigure});
-  Limit(AddNumber(command, "--dy", settings.dy, -kFarthest, kFarthest, "Pixels up"), {kFigure});
+        {kFigure}, Kind::kOther);
+  Limit(AddNumber(command, "--dy", settings.dy, -kFarthest, kFarthest, "Pixels up"), {kFigure},
+        Kind::kOther);
   Limit(AddNumber(command, "--da", settings.da, -180, 180, "Degrees that the figure turns"),
-        {kFigure});
+        {kFigure}, Kind::kOther);
   Limit(AddReal(command, "--reach", reach_, kSmallestReach, kLargestReach,
                 "x and y go from -N to N along the shorter side"),
         {kFormula});
 }
 
-void SourceOptions::Limit(CLI::Option* option, std::vector<SourceForm> forms) {
+void SourceOptions::Limit(CLI::Option* option, std::vector<SourceForm> forms, Kind kind) {
   std::string group = NamesOf(forms) + " only";
   group[0] = static_cast<char>(group[0] - 'a' + 'A');
   option->group(group);
-  limited_.push_back({option, std::move(forms)});
+  limited_.push_back({option, std::move(forms), kind});
 }
 
 Outcome<void> SourceOptions::Check(SourceForm form) const {
@@ -66,6 +68,34 @@ Outcome<void> SourceOptions::Check(SourceForm form) const {
     return WrongUsage(limited.option->get_name() + " is for " + NamesOf(limited.forms) + " only");
   }
   return {};
+}
+
+std::string SourceOptions::Shape() const {
+  std::string shape;
+  for (const Limited& limited : limited_) {
+    if (limited.kind != Kind::kShape || limited.option->count() == 0) continue;
+    if (!shape.empty()) shape += ' ';
+    shape += limited.option->get_name() + ' ' + limited.option->as<std::string>();
+  }
+  return shape;
+}
+
+bool SourceOptions::TakeShape(const std::string& shape) const {
+  std::istringstream words(shape);
+  for (std::string name, value; words >> name;) {
+    const auto limited = std::ranges::find_if(limited_, [&](const Limited& each) {
+      return each.kind == Kind::kShape && each.option->get_name() == name;
+    });
+    if (limited == limited_.end() || !(words >> value)) return false;
+    if (limited->option->count() > 0) continue;
+    try {
+      limited->option->add_result(value);
+      limited->option->run_callback();
+    } catch (const CLI::Error&) {
+      return false;
+    }
+  }
+  return true;
 }
 
 const CLI::Option* SourceOptions::GivenSize() const {

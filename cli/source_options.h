@@ -22,13 +22,20 @@ class SourceOptions {
   // Adds --width, --height, --dx, --dy, --da and the options that shape a source. What they set
   // lives as long as this does, and `settings` as long as that.
   void AddTo(CLI::App& command, TSirdsSettings& settings);
-  // Says that an option, which the command has, is for these forms only.
-  void Limit(CLI::Option* option, std::vector<SourceForm> forms);
+  // Says that an option, which the command has, is for these forms only. kShape: a recipe tells it
+  // (below); the rest is in the settings or names a file.
+  enum class Kind { kShape, kOther };
+  void Limit(CLI::Option* option, std::vector<SourceForm> forms, Kind kind = Kind::kShape);
 
   // Wrong usage when the command line has an option that is not for this form.
   [[nodiscard]] Outcome<void> Check(SourceForm form) const;
   // The first of --width and --height that the command line has, or none.
   const CLI::Option* GivenSize() const;
+
+  // The options of kShape that the command line has, such as "--reach 8", and the way back: they
+  // are taken where the command line does not have them. False for any other text.
+  std::string Shape() const;
+  [[nodiscard]] bool TakeShape(const std::string& shape) const;
 
   int width() const { return settings_->w; }
   int height() const { return settings_->h; }
@@ -38,6 +45,7 @@ class SourceOptions {
   struct Limited {
     CLI::Option* option;
     std::vector<SourceForm> forms;
+    Kind kind;
   };
   std::vector<Limited> limited_;
   std::vector<CLI::Option*> sizes_;

@@ -3,7 +3,7 @@
 find_package(Threads REQUIRED)
 find_package(GIF REQUIRED)
 find_package(JPEG REQUIRED)
-find_package(PNG REQUIRED)
+find_package(PNG REQUIRED)  # with ZLIB::ZLIB
 find_package(tl-expected CONFIG REQUIRED)
 find_package(CLI11 CONFIG REQUIRED)
 find_package(muparser CONFIG REQUIRED)

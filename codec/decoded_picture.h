@@ -10,15 +10,21 @@
 
 namespace plenovia {
 
-// A picture, and what is wrong with its file.
+// A picture, what is wrong with its file, and what the program wrote into it.
 struct DecodedPicture : IndexedImage {
   // Implicit: most files are whole.
-  DecodedPicture(IndexedImage picture, std::string whatIsWrong = {})  // NOLINT
-      : IndexedImage(std::move(picture)), damage(std::move(whatIsWrong)) {}
+  DecodedPicture(IndexedImage picture, std::string whatIsWrong = {},  // NOLINT
+                 std::string ownComment = {})
+      : IndexedImage(std::move(picture)),
+        damage(std::move(whatIsWrong)),
+        comment(std::move(ownComment)) {}
 
   // A sentence such as "The file is truncated."; empty when the file is whole.
   // The picture then shows what could be read; the rest of its pixels are index 0.
   std::string damage;
+  // The program's own comment, as it was written or cut off (codec/picture_comment.h); empty when
+  // there is none.
+  std::string comment;
 };
 
 inline constexpr char kTruncated[] = "The file is truncated.";

@@ -13,6 +13,7 @@
 #include "codec/byte_stream.h"
 #include "codec/gif_lzw.h"
 #include "codec/lzw_compression.h"
+#include "codec/picture_comment.h"
 #include "platform/limits.h"
 
 namespace plenovia {
@@ -39,30 +40,43 @@ const char* Damage(const ByteReader& bytes) {
   return bytes.truncated() ? kTruncated : "The GIF file is damaged.";
 }
 
-// Passes an extension; remembers the transparent colour if it names one.
-bool ReadExtension(GifFileType* file, std::optional<int>& transparent) {
+// What the extensions before the first frame tell.
+struct Extensions {
+  std::optional<int> transparent;  // the colour
+  std::string comment;             // the program's own
+};
+
+// Passes an extension and notes what it tells.
+bool ReadExtension(GifFileType* file, Extensions& told) {
   int kind = 0;
   GifByteType* block = nullptr;
   if (DGifGetExtension(file, &kind, &block) == GIF_ERROR) return false;
+  std::string comment;
   while (block != nullptr) {
     GraphicsControlBlock control{};
     if (kind == GRAPHICS_EXT_FUNC_CODE &&
         DGifExtensionToGCB(block[0], block + 1, &control) == GIF_OK &&
         control.TransparentColor != NO_TRANSPARENT_COLOR) {
-      transparent = control.TransparentColor;
+      told.transparent = control.TransparentColor;
+    }
+    if (kind == COMMENT_EXT_FUNC_CODE && comment.size() < kLongestComment) {
+      comment.append(block + 1, block + 1 + block[0]);
     }
     if (DGifGetExtensionNext(file, &block) == GIF_ERROR) return false;
+  }
+  if (told.comment.empty() && IsOwnComment(comment)) {
+    told.comment = comment.substr(0, kLongestComment);
   }
   return true;
 }
 
 // Goes on to the first frame. False when the file is damaged or holds none.
-bool FindFrame(GifFileType* file, std::optional<int>& transparent) {
+bool FindFrame(GifFileType* file, Extensions& told) {
   for (;;) {
     GifRecordType record = UNDEFINED_RECORD_TYPE;
     if (DGifGetRecordType(file, &record) == GIF_ERROR) return false;
     if (record == IMAGE_DESC_RECORD_TYPE) return DGifGetImageDesc(file) == GIF_OK;
-    if (record != EXTENSION_RECORD_TYPE || !ReadExtension(file, transparent)) return false;
+    if (record != EXTENSION_RECORD_TYPE || !ReadExtension(file, told)) return false;
   }
 }
 
@@ -136,8 +150,10 @@ bool WriteBlocks(GifFileType* file, std::span<const std::uint8_t> bytes) {
 }
 
 bool WriteGif(GifFileType* file, const IndexedImage& picture, const ColorMapObject* map,
-              std::span<const std::uint8_t> codes) {
+              std::span<const std::uint8_t> codes, const std::string& comment) {
+  EGifSetGifVersion(file, !comment.empty());
   if (EGifPutScreenDesc(file, picture.width(), picture.height(), 8, 0, map) == GIF_ERROR ||
+      (!comment.empty() && EGifPutComment(file, comment.c_str()) == GIF_ERROR) ||
       EGifPutImageDesc(file, 0, 0, picture.width(), picture.height(), false, nullptr) ==
           GIF_ERROR) {
     return false;
@@ -165,8 +181,8 @@ std::string_view GifLibrary() {
 Result<DecodedPicture> DecodeGif(std::span<const std::uint8_t> bytes) {
   ByteReader source(bytes);
   const Reader file(LooksLikeGif(bytes) ? DGifOpen(&source, ReadBytes, nullptr) : nullptr);
-  std::optional<int> transparent;
-  if (!file || !FindFrame(file.get(), transparent)) {
+  Extensions told;
+  if (!file || !FindFrame(file.get(), told)) {
     return Failure(ErrorCode::kCorrupt, Damage(source));
   }
   const int codeBits = bytes[source.position() - 1];
@@ -190,23 +206,24 @@ Result<DecodedPicture> DecodeGif(std::span<const std::uint8_t> bytes) {
   if (!plain && area + frame->pixels().size() > kMostPixelsInTwo) {
     return Failure(ErrorCode::kTooLarge, "The picture needs too much memory.");
   }
-  const int background = transparent.value_or(local ? 0 : file->SBackGroundColor);
+  const int background = told.transparent.value_or(local ? 0 : file->SBackGroundColor);
   const auto around = static_cast<std::uint8_t>(background < palette.size() ? background : 0);
   const std::size_t read = ReadPixels(file.get(), codeBits, frame->pixels());
   if (read == 0) return Failure(ErrorCode::kCorrupt, Damage(source));
   std::ranges::fill(frame->pixels().subspan(read), around);
   const bool whole = read == frame->pixels().size() && EndsWell(file.get()) && !source.truncated();
   std::string damage = whole ? "" : Damage(source);
-  if (plain) return DecodedPicture(std::move(*frame), std::move(damage));
+  if (plain) return DecodedPicture(std::move(*frame), std::move(damage), std::move(told.comment));
 
   auto picture = IndexedImage::Create(width, height, palette);
   if (!picture) return tl::unexpected(picture.error());
   picture->Fill(around);
   PlaceFrame(place, *frame, *picture);
-  return DecodedPicture(std::move(*picture), std::move(damage));
+  return DecodedPicture(std::move(*picture), std::move(damage), std::move(told.comment));
 }
 
-Result<EncodedPicture> EncodeGif(const IndexedImage& picture, int threads) {
+Result<EncodedPicture> EncodeGif(const IndexedImage& picture, int threads,
+                                 std::string_view comment) {
   if (picture.empty()) return Failure(ErrorCode::kInvalid, "There is no picture to write.");
   const auto noMemory = [] {
     return Failure(ErrorCode::kTooLarge, "There is not enough memory to write the GIF file.");
@@ -229,7 +246,7 @@ Result<EncodedPicture> EncodeGif(const IndexedImage& picture, int threads) {
   ByteBuffer bytes;
   GifFileType* file = EGifOpen(&bytes, AppendToFile, nullptr);
   if (file == nullptr) return noMemory();
-  const bool written = WriteGif(file, picture, map.get(), codes);
+  const bool written = WriteGif(file, picture, map.get(), codes, std::string(comment));
   if (EGifCloseFile(file, nullptr) == GIF_ERROR || !written) return noMemory();
   return EncodedPicture(std::move(bytes));
 }

@@ -23,7 +23,9 @@ bool LooksLikeGif(std::span<const std::uint8_t> bytes);
 
 // 87a, not interlaced, one common palette: the picture's colours, then black up to a power of two.
 // At most `threads` work on it, or one a processor when that is 0; the file is always the same.
-[[nodiscard]] Result<EncodedPicture> EncodeGif(const IndexedImage& picture, int threads = 0);
+// With a comment (plain ASCII) it is 89a, as older files have none.
+[[nodiscard]] Result<EncodedPicture> EncodeGif(const IndexedImage& picture, int threads = 0,
+                                               std::string_view comment = {});
 
 // The library that does it, with its version.
 std::string_view GifLibrary();

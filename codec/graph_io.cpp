@@ -18,8 +18,8 @@ Result<DecodedPicture> DecodePicture(std::span<const std::uint8_t> bytes, int th
   }
 }
 
-Result<EncodedPicture> EncodePicture(GraphicFormat number, const IndexedImage& picture,
-                                     int threads) {
+Result<EncodedPicture> EncodePicture(GraphicFormat number, const IndexedImage& picture, int threads,
+                                     std::string_view comment) {
   const PictureFormat* format = FindFormat(number);
   if (format == nullptr) {
     return Failure(ErrorCode::kUnsupported, "There is no picture format of this number.");
@@ -31,7 +31,7 @@ Result<EncodedPicture> EncodePicture(GraphicFormat number, const IndexedImage& p
                        : std::string(format->name) + " files are only read, not written.");
   }
   try {
-    return format->encode(picture, threads);
+    return format->encode(picture, threads, comment);
   } catch (const std::bad_alloc&) {
     return Failure(ErrorCode::kTooLarge, "There is not enough memory to write the picture.");
   }
@@ -50,9 +50,9 @@ Result<DecodedPicture> TGraphIO::Read_File(const std::filesystem::path& path) {
   return picture;
 }
 
-Result<void> TGraphIO::Write_File(const std::filesystem::path& path,
-                                  const IndexedImage& picture) const {
-  const auto encoded = EncodePicture(static_cast<GraphicFormat>(format_), picture);
+Result<void> TGraphIO::Write_File(const std::filesystem::path& path, const IndexedImage& picture,
+                                  std::string_view comment) const {
+  const auto encoded = EncodePicture(static_cast<GraphicFormat>(format_), picture, 0, comment);
   if (!encoded) return tl::unexpected(encoded.error());
   return WriteFile(path, encoded->pieces());
 }

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "codec/picture_format.h"
 #include "platform/result.h"
@@ -15,9 +16,11 @@ namespace plenovia {
 // `threads` work on it, here and when it is encoded, or one a processor when that is 0.
 [[nodiscard]] Result<DecodedPicture> DecodePicture(std::span<const std::uint8_t> bytes,
                                                    int threads = 0);
-// kUnsupported for formats that are not written.
+// kUnsupported for formats that are not written. `comment` is the program's own
+// (codec/picture_comment.h); BMP and PCX files have no place for it.
 [[nodiscard]] Result<EncodedPicture> EncodePicture(GraphicFormat format,
-                                                   const IndexedImage& picture, int threads = 0);
+                                                   const IndexedImage& picture, int threads = 0,
+                                                   std::string_view comment = {});
 
 // A picture as memory without compression would hold it.
 struct BitmapInfo {
@@ -44,7 +47,8 @@ class TGraphIO {
   // Fails with kUnsupported for a number that is not that of a picture format. On failure the file
   // that was there stays as it was.
   [[nodiscard]] Result<void> Write_File(const std::filesystem::path& path,
-                                        const IndexedImage& picture) const;
+                                        const IndexedImage& picture,
+                                        std::string_view comment = {}) const;
 
   static BitmapInfo GetBitmapInfo(const IndexedImage& picture);
   // The libraries that read and write, a line each.

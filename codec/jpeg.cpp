@@ -9,6 +9,7 @@
 #include "codec/jpeg_errors.h"
 #include "codec/jpeg_reader.h"
 #include "codec/kept_colours.h"
+#include "codec/picture_comment.h"
 
 namespace plenovia {
 
@@ -86,7 +87,8 @@ struct Destination {
   }
 };
 
-void StartFile(jpeg_compress_struct& info, const IndexedImage& picture, bool gray) {
+void StartFile(jpeg_compress_struct& info, const IndexedImage& picture, bool gray,
+               std::span<const JOCTET> comment) {
   info.image_width = static_cast<JDIMENSION>(picture.width());
   info.image_height = static_cast<JDIMENSION>(picture.height());
   info.input_components = gray ? 1 : 3;
@@ -98,6 +100,8 @@ void StartFile(jpeg_compress_struct& info, const IndexedImage& picture, bool gra
     info.comp_info[i].v_samp_factor = 1;
   }
   jpeg_start_compress(&info, TRUE);
+  if (comment.empty()) return;
+  jpeg_write_marker(&info, JPEG_COM, comment.data(), static_cast<unsigned>(comment.size()));
 }
 
 }  // namespace
@@ -119,16 +123,18 @@ Result<DecodedPicture> DecodeJpeg(std::span<const std::uint8_t> bytes, int threa
   if (auto opened = file.Open(); !opened) return tl::unexpected(opened.error());
   auto picture = file.gray() ? ReadGray(file) : ReadColours(file, threads);
   if (!picture) return tl::unexpected(picture.error());
-  return DecodedPicture(std::move(*picture), file.Damage());
+  return DecodedPicture(std::move(*picture), file.Damage(), FindJpegComment(bytes));
 }
 
-Result<EncodedPicture> EncodeJpeg(const IndexedImage& picture) {
+Result<EncodedPicture> EncodeJpeg(const IndexedImage& picture, std::string_view comment) {
   if (picture.empty()) return Failure(ErrorCode::kInvalid, "There is no picture to write.");
   const auto entries = picture.palette().entries();
   const bool gray = std::all_of(entries.begin(), entries.end(),
                                 [](Rgb c) { return c.red == c.green && c.green == c.blue; });
   const std::size_t channels = gray ? 1 : 3;
   std::vector<std::uint8_t> row(channels * static_cast<std::size_t>(picture.width()));
+  const std::span<const JOCTET> text(reinterpret_cast<const JOCTET*>(comment.data()),
+                                     std::min<std::size_t>(comment.size(), 65533));
   JpegErrors errors;
   Destination destination;
   jpeg_compress_struct info{};
@@ -136,7 +142,7 @@ Result<EncodedPicture> EncodeJpeg(const IndexedImage& picture) {
   const bool written = errors.Guarded([&] {
     jpeg_create_compress(&info);
     info.dest = &destination.base;
-    StartFile(info, picture, gray);
+    StartFile(info, picture, gray, text);
     for (int y = 0; y < picture.height(); ++y) {
       auto to = row.begin();
       for (const std::uint8_t index : picture.Row(y)) {

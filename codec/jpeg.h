@@ -22,8 +22,10 @@ bool LooksLikeJpeg(std::span<const std::uint8_t> bytes);
 [[nodiscard]] Result<DecodedPicture> DecodeJpeg(std::span<const std::uint8_t> bytes,
                                                 int threads = 0);
 
-// Baseline, quality 95, colours at full resolution; a gray file when all the palette is gray.
-[[nodiscard]] Result<EncodedPicture> EncodeJpeg(const IndexedImage& picture);
+// Baseline, quality 95, colours at full resolution; a gray file when all the palette is gray. A
+// comment is at most 65533 bytes long.
+[[nodiscard]] Result<EncodedPicture> EncodeJpeg(const IndexedImage& picture,
+                                                std::string_view comment = {});
 
 // The library that does it, with its version.
 std::string_view JpegLibrary();

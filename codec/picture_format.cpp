@@ -21,8 +21,14 @@ Result<DecodedPicture> Decode(std::span<const std::uint8_t> file, int) {
 }
 
 template <auto kEncode>
-Result<EncodedPicture> Encode(const IndexedImage& picture, int) {
+Result<EncodedPicture> Encode(const IndexedImage& picture, int, std::string_view) {
   return kEncode(picture);
+}
+
+template <auto kEncode>
+Result<EncodedPicture> EncodeWithComment(const IndexedImage& picture, int,
+                                         std::string_view comment) {
+  return kEncode(picture, comment);
 }
 
 constexpr PictureFormat kFormats[] = {
@@ -57,7 +63,7 @@ constexpr PictureFormat kFormats[] = {
      false,
      LooksLikeJpeg,
      DecodeJpeg,
-     Encode<EncodeJpeg>,
+     EncodeWithComment<EncodeJpeg>,
      JpegLibrary},
     {GraphicFormat::kDepthMap,
      "RDS",
@@ -79,7 +85,7 @@ constexpr PictureFormat kFormats[] = {
      true,
      LooksLikePng,
      Decode<DecodePng>,
-     Encode<EncodePng>,
+     EncodeWithComment<EncodePng>,
      PngLibrary},
     {GraphicFormat::kBmp,
      "BMP",

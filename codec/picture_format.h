@@ -30,7 +30,9 @@ enum class FileLists { kNone, kSave, kSaveOpen, kSaveOpenWizard };
 
 // `threads` is how many may work, 0 for one a processor.
 using PictureReader = Result<DecodedPicture> (*)(std::span<const std::uint8_t> file, int threads);
-using PictureWriter = Result<EncodedPicture> (*)(const IndexedImage& picture, int threads);
+// `comment` is the program's own (codec/picture_comment.h), empty for none.
+using PictureWriter = Result<EncodedPicture> (*)(const IndexedImage& picture, int threads,
+                                                 std::string_view comment);
 
 struct PictureFormat {
   GraphicFormat number;

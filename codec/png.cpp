@@ -1,12 +1,14 @@
 #include "codec/png.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
 #include <vector>
 
 #include "codec/byte_stream.h"
 #include "codec/colour_reducer.h"
 #include "codec/composite_over_white.h"
+#include "codec/picture_comment.h"
 #include "codec/png_errors.h"
 #include "codec/png_reader.h"
 
@@ -90,13 +92,22 @@ Result<DecodedPicture> ReadColours(std::span<const std::uint8_t> bytes, PngReade
 }
 
 void Write(png_structp png, png_infop info, const IndexedImage& picture,
-           std::span<const png_color> palette) {
+           std::span<const png_color> palette, std::span<char> comment) {
   png_set_compression_level(png, kLevel);
   png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
   png_set_IHDR(png, info, static_cast<png_uint_32>(picture.width()),
                static_cast<png_uint_32>(picture.height()), 8, PNG_COLOR_TYPE_PALETTE,
                PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
   png_set_PLTE(png, info, palette.data(), static_cast<int>(palette.size()));
+  if (!comment.empty()) {
+    png_text text{};
+    char key[] = "Comment";
+    text.compression = PNG_TEXT_COMPRESSION_NONE;
+    text.key = key;
+    text.text = comment.data();
+    text.text_length = comment.size();
+    png_set_text(png, info, &text, 1);
+  }
   png_write_info(png, info);
   for (int y = 0; y < picture.height(); ++y) png_write_row(png, picture.Row(y).data());
   png_write_end(png, info);
@@ -112,10 +123,12 @@ bool LooksLikePng(std::span<const std::uint8_t> bytes) {
 Result<DecodedPicture> DecodePng(std::span<const std::uint8_t> bytes) {
   PngReader file(bytes);
   if (auto opened = file.Open(); !opened) return tl::unexpected(opened.error());
-  return file.channels() < 3 ? ReadIndexes(file) : ReadColours(bytes, file);
+  auto picture = file.channels() < 3 ? ReadIndexes(file) : ReadColours(bytes, file);
+  if (picture) picture->comment = FindPngComment(bytes);
+  return picture;
 }
 
-Result<EncodedPicture> EncodePng(const IndexedImage& picture) {
+Result<EncodedPicture> EncodePng(const IndexedImage& picture, std::string_view comment) {
   if (picture.empty()) return Failure(ErrorCode::kInvalid, "There is no picture to write.");
   const auto highest = std::max_element(picture.pixels().begin(), picture.pixels().end());
   std::vector<png_color> palette;
@@ -123,6 +136,7 @@ Result<EncodedPicture> EncodePng(const IndexedImage& picture) {
     const Rgb c = picture.palette()[i];
     palette.push_back({c.red, c.green, c.blue});
   }
+  std::string text(comment);
   PngErrors errors;
   ByteBuffer bytes;
   png_structp png =
@@ -134,7 +148,7 @@ Result<EncodedPicture> EncodePng(const IndexedImage& picture) {
       if (!AppendBytes(to, {data, count})) png_error(file, "no memory");
     };
     png_set_write_fn(png, &bytes, append, nullptr);
-    Write(png, info, picture, palette);
+    Write(png, info, picture, palette, text);
   });
   png_destroy_write_struct(&png, &info);
   if (!written) {

@@ -23,11 +23,10 @@ bool LooksLikePng(std::span<const std::uint8_t> bytes);
 // small file that expands to gigabytes).
 [[nodiscard]] Result<DecodedPicture> DecodePng(std::span<const std::uint8_t> bytes);
 
-// 8 bits a pixel with the picture's palette, widened with black where pixels go beyond it.
-[[nodiscard]] Result<EncodedPicture> EncodePng(const IndexedImage& picture);
-
-// The library that does it, with its version.
-std::string_view PngLibrary();
+// 8 bits a pixel with the picture's palette, widened with black where pixels go beyond it. A
+// comment (plain ASCII) goes into a text chunk "Comment".
+[[nodiscard]] Result<EncodedPicture> EncodePng(const IndexedImage& picture,
+                                               std::string_view comment = {});
 
 // The library that does it, with its version.
 std::string_view PngLibrary();

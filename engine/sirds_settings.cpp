@@ -11,26 +11,21 @@ namespace plenovia {
 
 namespace {
 
-struct Key {
-  const char* name;
-  std::int32_t TSirdsSettings::*field;
-};
-
-// In the order in which they are written.
-constexpr std::array<Key, 13> kKeys = {{
-    {"dx", &TSirdsSettings::dx},
-    {"dy", &TSirdsSettings::dy},
-    {"da", &TSirdsSettings::da},
+constexpr std::int32_t kMostPixels = 32767;
+constexpr std::array<SettingKey, 13> kKeys = {{
+    {"dx", &TSirdsSettings::dx, -kMostPixels, kMostPixels},
+    {"dy", &TSirdsSettings::dy, -kMostPixels, kMostPixels},
+    {"da", &TSirdsSettings::da, -180, 180},
     {"zmin", &TSirdsSettings::zmin},
     {"zmax", &TSirdsSettings::zmax},
-    {"w", &TSirdsSettings::w},
-    {"h", &TSirdsSettings::h},
-    {"gapValue", &TSirdsSettings::gapValue},
-    {"Marker", &TSirdsSettings::marker},
-    {"UseBMP", &TSirdsSettings::useBmp},
-    {"DepthSel", &TSirdsSettings::depthSel},
+    {"w", &TSirdsSettings::w, 1, kMostPixels},
+    {"h", &TSirdsSettings::h, 1, kMostPixels},
+    {"gapValue", &TSirdsSettings::gapValue, 2, 4096},
+    {"Marker", &TSirdsSettings::marker, 0, 1},
+    {"UseBMP", &TSirdsSettings::useBmp, 0, 1},
+    {"DepthSel", &TSirdsSettings::depthSel, kDepthByColor, kDepthByBrightness},
     {"ShiftDir", &TSirdsSettings::scanMethod},
-    {"FitRange", &TSirdsSettings::fitRange},
+    {"FitRange", &TSirdsSettings::fitRange, 0, 1},
 }};
 constexpr char kSection[] = "DEMO";
 
@@ -59,6 +54,10 @@ std::int32_t ZeroBeyond(std::int32_t value, std::int32_t limit) {
 }
 
 }  // namespace
+
+std::span<const SettingKey> SettingKeys() {
+  return kKeys;
+}
 
 void RestoreDefaults(TSirdsSettings& settings) {
   const std::int32_t useBmp = settings.useBmp;
@@ -128,14 +127,14 @@ std::vector<Replacement> Replacements(const SirdsSettingsEntry& entry) {
 
 TSirdsSettings LoadSirdsSettings(const ProfileFile& profile) {
   TSirdsSettings settings;
-  for (const Key& key : kKeys) {
+  for (const SettingKey& key : kKeys) {
     settings.*key.field = profile.GetInt(kSection, key.name, settings.*key.field);
   }
   return Settle(settings);
 }
 
 void StoreSirdsSettings(const TSirdsSettings& settings, ProfileFile& profile) {
-  for (const Key& key : kKeys) profile.SetInt(kSection, key.name, settings.*key.field);
+  for (const SettingKey& key : kKeys) profile.SetInt(kSection, key.name, settings.*key.field);
 }
 
 }  // namespace plenovia

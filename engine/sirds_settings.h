@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,6 +35,16 @@ struct TSirdsSettings {
 
   bool operator==(const TSirdsSettings&) const = default;
 };
+
+// A field with its name in files, and the widest range that any part of the program takes.
+struct SettingKey {
+  const char* name;
+  std::int32_t TSirdsSettings::*field;
+  std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
+  std::int32_t highest = std::numeric_limits<std::int32_t>::max();
+};
+// Every field, in the order in which files have them.
+std::span<const SettingKey> SettingKeys();
 
 // The defaults in every field but `useBmp`.
 void RestoreDefaults(TSirdsSettings& settings);

@@ -2,8 +2,7 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "codec/jpeg.h"
-#include "codec/png.h"
+#include "codec/graph_io.h"
 #include "depthmap/depth_map_file.h"
 #include "platform/file_io.h"
 #include "samples/scenes.h"
@@ -13,12 +12,10 @@ namespace plenovia {
 namespace {
 
 namespace fs = std::filesystem;
-using Encoder = Result<EncodedPicture> (*)(const IndexedImage&);
 
-Result<void> WritePicture(const Result<IndexedImage>& picture, Encoder encode,
-                          const fs::path& path) {
+Result<void> WritePicture(const Result<IndexedImage>& picture, const fs::path& path) {
   if (!picture) return tl::unexpected(picture.error());
-  const Result<EncodedPicture> file = encode(*picture);
+  const Result<EncodedPicture> file = EncodePicture(FormatOfExtension(path.native()), *picture);
   if (!file) return tl::unexpected(file.error());
   return WriteFile(path, file->pieces());
 }
@@ -28,10 +25,10 @@ Result<void> WriteMap(TDepthList list, const fs::path& path) {
 }
 
 Result<void> MakeSamples(const fs::path& folder) {
-  return WritePicture(Island(), EncodePng, folder / "island.png")
-      .and_then([&] { return WritePicture(StillLife(), EncodePng, folder / "still-life.png"); })
-      .and_then([&] { return WritePicture(Shark(), EncodePng, folder / "shark.png"); })
-      .and_then([&] { return WritePicture(ChessEndgame(), EncodeJpeg, folder / "chess.jpg"); })
+  return WritePicture(Island(), folder / "island.png")
+      .and_then([&] { return WritePicture(StillLife(), folder / "still-life.png"); })
+      .and_then([&] { return WritePicture(Shark(), folder / "shark.png"); })
+      .and_then([&] { return WritePicture(ChessEndgame(), folder / "chess.jpg"); })
       .and_then([&] { return WriteMap(House(), folder / "house.rds"); })
       .and_then([&] { return WriteMap(SailingBoat(), folder / "sailing-boat.rds"); });
 }

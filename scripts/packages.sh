@@ -39,6 +39,7 @@ need_packages() {
 core_packages=(
   cmake g++ ninja-build
   libcli11-dev libexpected-dev libgif-dev libjpeg62-turbo-dev libmuparser-dev libpng-dev
+  zlib1g-dev
 )
 # To build the desktop program, and to show it.
 build_packages=(
