@@ -42,6 +42,8 @@ constexpr CommandRow kCommands[] = {
     {kEdit, 0, nullptr, nullptr, nullptr, nullptr},
     {kEdit, kCmCopy, T("&Copy"), T("Copy to Clipboard"), nullptr, &IsIdle, "Ctrl+C"},
     {kEdit, kCmPaste, T("&Paste"), T("Paste from Clipboard"), &CmPaste, &CanPaste, "Ctrl+V"},
+    {kEdit, 0, nullptr, nullptr, nullptr, nullptr},
+    {kEdit, kCmSelectAll, T("Select &All"), T("Select all shapes of the depth map"), nullptr, nullptr, "Ctrl+A"},
     {kGraphics, kCmVideoInformation, T("&Video Information"), T("Get Information about the operating video driver"), &CmVideoInformation, nullptr},
     {kGraphics, 0, nullptr, nullptr, nullptr, nullptr},
     {kGraphics, kCmZoomIn, T("Zoom &In"), T("Zoom In"), nullptr, &IsIdle, "Ctrl++; Ctrl+="},

@@ -191,8 +191,8 @@ void TDepthList::BeginEdit(EditKind kind) {
   if (history_) history_->Begin(kind, contents_);
 }
 
-void TDepthList::EndEdit() {
-  if (history_) contents_ = history_->End(contents_);
+void TDepthList::EndEdit(bool joins) {
+  if (history_) contents_ = history_->End(contents_, joins && !history_->IsOpenSince(saved_));
 }
 
 void TDepthList::TakeBackEdit() {

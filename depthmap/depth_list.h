@@ -61,9 +61,10 @@ class TDepthList final : public LevelGrid {
   // From here on changes can be undone.
   void KeepHistory(std::size_t memory = MapHistory::kMemory);
   // All changes between the two are one step, which counts as changed only where something is
-  // different at the end. MapEdit does both. A change outside is a step by itself.
+  // different at the end. MapEdit does both. A change outside is a step by itself. One that
+  // goes on with the step before joins it, unless the map was saved between them.
   void BeginEdit(EditKind kind);
-  void EndEdit();
+  void EndEdit(bool joins = false);
   // Takes back what has been done since BeginEdit().
   void TakeBackEdit();
   // Select the objects concerned. Nothing happens while an edit is open.

@@ -73,12 +73,25 @@ void MapHistory::Record(ListChange change) {
   open_.changes.push_back(std::move(change));
 }
 
-std::uint64_t MapHistory::End(std::uint64_t contents) {
+bool MapHistory::CanJoin(const Step& step, const Step& before) {
+  return step.kind == before.kind &&
+         std::equal(step.changes.begin(), step.changes.end(), before.changes.begin(),
+                    before.changes.end(), [](const ListChange& a, const ListChange& b) {
+                      return std::holds_alternative<GeometryChange>(a) &&
+                             std::holds_alternative<GeometryChange>(b) &&
+                             ObjectOf(a) == ObjectOf(b);
+                    });
+}
+
+std::uint64_t MapHistory::End(std::uint64_t contents, bool joins) {
   if (depth_ == 0 || --depth_ > 0) return contents;
   known_.clear();
   std::erase_if(open_.changes, IsIdle);
   if (open_.changes.empty()) return open_.before;
   Forget(undone_);
+  if (joins && !done_.empty() && CanJoin(open_, done_.back())) {
+    return done_.back().after = contents;
+  }
   open_.after = contents;
   open_.bytes = sizeof(Step);
   for (const ListChange& change : open_.changes) open_.bytes += BytesOf(change);

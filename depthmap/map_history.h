@@ -79,10 +79,14 @@ class MapHistory {
 
   // All changes up to the End() that belongs to this Begin() become one step; none when all is as
   // it was. Of steps inside each other the outermost counts. `contents` names what the map holds at
-  // that moment; End() gives it, or that of the beginning when all is as it was.
+  // that moment; End() gives it, or that of the beginning when all is as it was. One that `joins`
+  // becomes part of the step before, when both are of a kind and about the places of the same
+  // objects.
   void Begin(EditKind kind, std::uint64_t contents);
-  std::uint64_t End(std::uint64_t contents);
+  std::uint64_t End(std::uint64_t contents, bool joins = false);
   bool IsOpen() const { return depth_ > 0; }
+  // Whether the open step began with these contents.
+  bool IsOpenSince(std::uint64_t contents) const { return open_.before == contents; }
 
   // Takes a change that has been made. What an open step knows already of an object's place or
   // level is not kept twice.
@@ -112,6 +116,7 @@ class MapHistory {
   };
 
   void Forget(std::deque<Step>& steps);
+  static bool CanJoin(const Step& step, const Step& before);
 
   std::size_t memory_;
   std::size_t bytes_ = 0;

@@ -12,13 +12,17 @@ constexpr bool IsDrawingTool(int id) {
 constexpr bool IsMapTool(int id) {
   return (id >= kSelectTool && id <= kApplyLevelTool) || IsDrawingTool(id);
 }
+// Tools that select objects and change them by their handles.
+constexpr bool PicksObjects(int id) {
+  return id == kSelectTool || id == kMoveTool;
+}
 constexpr bool IsMapViewCommand(int id) {
   return id == kCmZoomIn || id == kCmZoomOut || id == kCmActualSize || id == kCmZoomToFit ||
          id == kCmMapView;
 }
 constexpr bool IsMapCommand(int id) {
-  return IsMapTool(id) || (id >= kSetLevel && id <= kDeleteObject) || id == kCmUndo ||
-         id == kCmRedo || IsMapViewCommand(id);
+  return IsMapTool(id) || (id >= kSetLevel && id <= kDeleteObject) ||
+         (id >= kCmUndo && id <= kCmSelectAll) || IsMapViewCommand(id);
 }
 // What a drawing tool draws.
 constexpr DepthObjKind KindOfTool(int id) {

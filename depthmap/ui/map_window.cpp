@@ -8,8 +8,12 @@
 #include <vector>
 
 #include "depthmap/depth_map_file.h"
+#include "depthmap/handles.h"
+#include "depthmap/picking.h"
 #include "depthmap/ui/edit_names.h"
 #include "depthmap/ui/level_dialog.h"
+#include "depthmap/ui/handle_painting.h"
+#include "depthmap/ui/map_keys.h"
 #include "platform/file_io.h"
 #include "platform/ui/message_box.h"
 #include "platform/ui/private_message.h"
@@ -20,6 +24,8 @@ namespace plenovia {
 
 namespace {
 
+constexpr std::size_t kMostAreas = 200;  // repainted one by one
+constexpr std::int64_t kTolerance = 4;   // pixels of the display
 constexpr std::int64_t kGreatestSide = 32767;  // of a window, in pixels
 
 DepthPoint ToDepthPoint(const QPoint& point) {
@@ -50,6 +56,7 @@ TMapWindow::~TMapWindow() {
 
 void TMapWindow::SetList(std::shared_ptr<TDepthList> list) {
   if (list_) list_->SetOwner(nullptr);
+  gesture_.reset();
   picture_.reset();
   list_ = std::move(list);
   list_->SetOwner(this);
@@ -154,8 +161,10 @@ QString TMapWindow::SavingText(const QString&) const {
 
 DocumentStatus TMapWindow::Status() const {
   const DepthMapInfo info = GetBitmapInfo();
-  return PictureStatus(info.width, info.height, info.bitsPerPixel,
-                       static_cast<std::int64_t>(GetImageSize()));
+  DocumentStatus status = PictureStatus(info.width, info.height, info.bitsPerPixel,
+                                        static_cast<std::int64_t>(GetImageSize()));
+  if (remark_) status.message = remark_;
+  return status;
 }
 
 bool TMapWindow::HandlesCommand(int command) const {
@@ -200,6 +209,9 @@ void TMapWindow::RunCommand(int command) {
     case kDeleteObject:
       list_->CmDelete();
       break;
+    case kCmSelectAll:
+      list_->SelectAll(ObjectsAboveBackground(*list_));
+      break;
     case kCmUndo:
       list_->Undo();
       break;
@@ -227,6 +239,7 @@ void TMapWindow::EvMDIActivate(bool active) {
 }
 
 void TMapWindow::StateMayHaveChanged() {
+  RepaintChanged();
   const bool changed = knownSaved_ != IsSaved() || knownSelected_ != list_->Selected() ||
                        knownUndo_ != list_->UndoKind() || knownRedo_ != list_->RedoKind();
   knownSaved_ = IsSaved();
@@ -278,10 +291,22 @@ void TMapWindow::Paint(QPainter& painter, const QRect& exposed) {
       {reinterpret_cast<std::uint32_t*>(shown.bits()),
        static_cast<std::size_t>(shown.sizeInBytes()) / sizeof(std::uint32_t)});
   painter.drawImage(seen.topLeft(), shown);
+  PaintHandles(painter, *list_, look_.scale, View());
 }
 
 void TMapWindow::Repaint(const PixelRect& area) {
-  Invalidate(InClient(Painting().WithLabels(area)));
+  changed_.push_back(area);
+  if (changed_.size() > 1) return;
+  QMetaObject::invokeMethod(this, &TMapWindow::RepaintChanged, Qt::QueuedConnection);
+}
+
+void TMapWindow::RepaintChanged() {
+  const std::vector<PixelRect> changed = std::exchange(changed_, {});
+  if (changed.size() > kMostAreas) {
+    InvalidateAll();
+    return;
+  }
+  for (const PixelRect& area : changed) Invalidate(InClient(Painting().WithLabels(area)));
 }
 
 void TMapWindow::InvalidateRubber() {
@@ -290,14 +315,62 @@ void TMapWindow::InvalidateRubber() {
   Invalidate(InClient({area.left - 1, area.top - 1, area.right + 1, area.bottom + 1}));
 }
 
-void TMapWindow::OnLButtonDown(MouseKeys, QPoint point) {
-  const TDepthObj* object = list_->ObjectAt(point.x(), point.y());
+void TMapWindow::PressOnObjects(MouseKeys keys, QPoint point) {
+  const GesturePress press{ToDepthPoint(point), ToGestureKeys(keys.modifiers),
+                           PickTolerance(look_.scale)};
+  gesture_ = PressOnHandle(*list_, press);
+  if (gesture_) return;
+  gesture_ = tool_ == kMoveTool ? PressToMove(*list_, press) : PressToSelect(*list_, press);
+}
+
+void TMapWindow::MouseMoved(MouseKeys keys, QPoint point) {
+  if (!gesture_ || !LeftDown()) {
+    TMouseWnd::MouseMoved(keys, point);
+    return;
+  }
+  gesture_->MoveTo(ToDepthPoint(point), ToGestureKeys(keys.modifiers));
+  SetLastPoint(point.x(), point.y());
+  ShowFrame();
+  StateMayHaveChanged();
+}
+
+void TMapWindow::ShowFrame() {
+  const std::optional<DepthRect> frame = gesture_->Frame();
+  if (!frame) return;
+  InvalidateRubber();
+  if (!rubber_.IsActive()) rubber_.Start(SquareBoxObj, *frame);
+  rubber_.SetRect(*frame);
+  InvalidateRubber();
+}
+
+bool TMapWindow::EndGesture(bool cancelled) {
+  const bool active = gesture_ != nullptr || rubber_.IsActive();
+  if (gesture_) cancelled ? gesture_->Cancel() : gesture_->Finish();
+  gesture_.reset();
+  InvalidateRubber();
+  rubber_.SetClosed(false);
+  if (tool_ != kPolygonTool || cancelled) rubber_.Stop();
+  return active;
+}
+
+bool TMapWindow::KeyPressed(const QKeyEvent& event) {
+  bool used = false;
+  if (event.key() == Qt::Key_Escape) {
+    used = EndGesture(true);
+    EndLeftTrack();
+  } else if (!gesture_) {
+    used = PressMapKey(*list_, event);
+  }
+  StateMayHaveChanged();
+  return used;
+}
+
+void TMapWindow::OnLButtonDown(MouseKeys keys, QPoint point) {
+  const TDepthObj* object = PickObject(*list_, ToDepthPoint(point), PickTolerance(look_.scale));
   switch (tool_) {
-    case kMoveTool:
-      list_->BeginEdit(EditKind::kMove);
-      [[fallthrough]];
     case kSelectTool:
-      list_->Select(object);
+    case kMoveTool:
+      PressOnObjects(keys, point);
       break;
     case kGetLevelTool:
       list_->GetObjectLevel(object);
@@ -316,11 +389,6 @@ void TMapWindow::OnLButtonDown(MouseKeys, QPoint point) {
 }
 
 void TMapWindow::LeftDrag(int x, int y) {
-  if (tool_ == kMoveTool && list_->Selected() != nullptr) {
-    MoveSelected(QPoint(x, y) - LastPoint());
-    SetLastPoint(x, y);
-    return;
-  }
   UpdateTrack(x, y);
   InvalidateRubber();
   rubber_.SetRect(ToDepthRect(Tracking()));
@@ -330,20 +398,13 @@ void TMapWindow::LeftDrag(int x, int y) {
 
 void TMapWindow::OnLButtonUp(MouseKeys, QPoint) {
   if (LeftDragged() && IsDrawingTool(tool_) && tool_ != kPolygonTool) AddShape();
-  EndRubber();
+  EndGesture(false);
   StateMayHaveChanged();
 }
 
 void TMapWindow::OnLeftTrackLost() {
-  EndRubber();
+  EndGesture(false);
   StateMayHaveChanged();
-}
-
-void TMapWindow::EndRubber() {
-  list_->EndEdit();
-  InvalidateRubber();
-  rubber_.SetClosed(false);
-  if (tool_ != kPolygonTool) rubber_.Stop();
 }
 
 void TMapWindow::HoverMove(int x, int y) {
@@ -353,15 +414,31 @@ void TMapWindow::HoverMove(int x, int y) {
     InvalidateRubber();
   }
   SetLastPoint(x, y);
+  ShowHandleCursor(QPoint(x, y));
 }
 
-void TMapWindow::OnLButtonDblClk(MouseKeys, QPoint) {
+void TMapWindow::ShowHandleCursor(QPoint point) {
+  if (!PicksObjects(tool_)) return;
+  const auto handle = HandleOfSelected(*list_, ToDepthPoint(point), PickTolerance(look_.scale));
+  if (handle) {
+    ShowCursor(CursorOf(*list_->Selected(), *handle));
+  } else {
+    SetCursorId(tool_);
+  }
+}
+
+void TMapWindow::OnLButtonDblClk(MouseKeys, QPoint point) {
   if (tool_ == kPolygonTool && rubber_.IsPolygon()) FinishPolygon();
+  if (!PicksObjects(tool_)) return;
+  const auto added = AddPointAt(*list_, ToDepthPoint(point), PickTolerance(look_.scale));
+  if (added == AddedPoint::kTooMany) Remark(tr("A polygon has at most 64 points."));
+  StateMayHaveChanged();
 }
 
-void TMapWindow::MoveSelected(QPoint way) {
-  const TDepthObj* selected = list_->Selected();
-  list_->MoveSelectedTo(selected->GetRect().Shifted(way.x(), way.y()));
+void TMapWindow::Remark(const QString& remark) {
+  remark_ = remark;
+  SendPrivateMessage(Frame(), PrivateMessage(WM_UPDATESTATUS));
+  remark_.reset();
 }
 
 void TMapWindow::AddShape() {

@@ -5,8 +5,10 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "depthmap/depth_list.h"
+#include "depthmap/map_gesture.h"
 #include "depthmap/map_picture.h"
 #include "depthmap/rubber_band.h"
 #include "depthmap/ui/level_label_font.h"
@@ -85,9 +87,12 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   void OnLeftTrackLost() override;
   void LeftDrag(int x, int y) override;
   void HoverMove(int x, int y) override;
+  void MouseMoved(MouseKeys keys, QPoint point) override;
+  bool KeyPressed(const QKeyEvent& event) override;
 
  private:
   void Repaint(const PixelRect& area) override;
+  void RepaintChanged();
   void SetList(std::shared_ptr<TDepthList> list);
   // The point `stays` of the client area shows the same place of the map afterwards.
   void SetLook(const MapLook& look, const QPoint& stays);
@@ -99,10 +104,16 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   QRect View() const { return {ScrollPosition(), ClientSize()}; }
   QRect InClient(const PixelRect& area) const;
   void InvalidateRubber();
-  void EndRubber();
   void StateMayHaveChanged();
 
-  void MoveSelected(QPoint way);
+  void PressOnObjects(MouseKeys keys, QPoint point);
+  void ShowFrame();
+  void ShowHandleCursor(QPoint point);
+  // Tells the user in the status bar.
+  void Remark(const QString& remark);
+  // Ends what the mouse has begun, as it is or as if it had not been begun. False when there is
+  // nothing.
+  bool EndGesture(bool cancelled);
   void AddShape();
   void AddVertex(QPoint point);
   void FinishPolygon();
@@ -113,8 +124,11 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   std::unique_ptr<MapPicture> picture_;
   RubberBand rubber_;
   MapLook look_;
-  QSize extent_;  // of the map as it is shown
+  std::unique_ptr<MapGesture> gesture_;  // of list_
+  std::vector<PixelRect> changed_;       // still to be repainted
+  QSize extent_;                         // of the map as it is shown
   int tool_ = kSelectTool;
+  std::optional<QString> remark_;  // while the status bar asks for it
   bool knownSaved_ = false;
   std::optional<EditKind> knownUndo_;
   std::optional<EditKind> knownRedo_;

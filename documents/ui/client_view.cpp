@@ -57,6 +57,14 @@ QSize TMouseWnd::ClientView::WithBars(QSize client, const QSize& room) const {
   return client.boundedTo(room);
 }
 
+bool TMouseWnd::ClientView::event(QEvent* event) {
+  // Before Qt takes Tab for itself.
+  if (event->type() == QEvent::KeyPress && window_.KeyPressed(*static_cast<QKeyEvent*>(event))) {
+    return true;
+  }
+  return QAbstractScrollArea::event(event);
+}
+
 bool TMouseWnd::ClientView::viewportEvent(QEvent* event) {
   switch (event->type()) {
     case QEvent::Paint:

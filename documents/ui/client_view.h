@@ -24,6 +24,7 @@ class TMouseWnd::ClientView : public QAbstractScrollArea {
   QSize minimumSizeHint() const override { return {}; }
 
  protected:
+  bool event(QEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
 

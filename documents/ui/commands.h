@@ -23,6 +23,7 @@ enum Command {
   kCmPaste = 223,
   kCmUndo = 225,
   kCmRedo = 226,
+  kCmSelectAll = 227,
   kCmFirstFigure = 301,
   kCmLastFigure = 330,
   kCmVersion = 398,

@@ -14,6 +14,7 @@ namespace plenovia {
 
 namespace {
 
+constexpr int kNoCursor = -1;
 constexpr Qt::KeyboardModifiers kShiftOrControl = Qt::ShiftModifier | Qt::ControlModifier;
 
 bool OnlyButton(const MouseKeys& keys, Qt::MouseButton button) {
@@ -185,6 +186,11 @@ void TMouseWnd::SetCursorId(int id) {
   if (id == cursorId_) return;
   cursorId_ = id;
   view_->viewport()->setCursor(CursorById(id, devicePixelRatioF()));
+}
+
+void TMouseWnd::ShowCursor(Qt::CursorShape shape) {
+  cursorId_ = kNoCursor;
+  if (view_->viewport()->cursor().shape() != shape) view_->viewport()->setCursor(shape);
 }
 
 QRect TMouseWnd::LogicalArea(const QRect& client) const {

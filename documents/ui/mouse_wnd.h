@@ -1,6 +1,7 @@
 // The common base of all document windows: turns mouse events into clicks, drags and moves.
 #pragma once
 
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMouseEvent>
 #include <QPainter>
@@ -88,6 +89,12 @@ class TMouseWnd : public Document {
   virtual void EndRightTrack();
   virtual void UpdateTrack(int x, int y);
   virtual void SetCursorId(int id);
+  // Shows another cursor than that of SetCursorId(), until it is called again.
+  void ShowCursor(Qt::CursorShape shape);
+  // Every move of the mouse; those above come from here.
+  virtual void MouseMoved(MouseKeys keys, QPoint point);
+  // Whether the key is the window's own. Other keys scroll, or go to the menus.
+  virtual bool KeyPressed(const QKeyEvent& /*event*/) { return false; }
 
   void SetLastPoint(int x, int y) { lastPoint_ = {x, y}; }
   const TrackRect& Tracking() const { return tracking_; }
@@ -123,7 +130,6 @@ class TMouseWnd : public Document {
   bool HasNormalSize() const;
   void TakeWantedSize();
   void EndLostTracks(Qt::MouseButtons held);
-  void MouseMoved(MouseKeys keys, QPoint point);
   QRect LogicalArea(const QRect& client) const;
 
   ClientView* view_;

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "depthmap/picking.h"
 #include "depthmap/ui/tests/map_window_fixture.h"
 
 namespace plenovia {
@@ -242,6 +243,11 @@ TEST_F(MapWindow, MoveToolShiftsWhatIsUnderTheMouse) {
   Drag({30, 30}, {130, 20});
   EXPECT_EQ(Top(), "2(160,50,110,0)=5");
   Drag({300, 300}, {310, 290});
+  EXPECT_EQ(Text(*window->Objects().Background()), "3(0,0,400,400)=0");
+  EXPECT_EQ(window->Objects().Selected(), nullptr) << "a frame around nothing";
+  Press({300, 300}, Qt::ControlModifier);
+  Pull({310, 290}, Qt::ControlModifier);
+  Release({310, 290});
   EXPECT_EQ(Text(*window->Objects().Background()), "3(10,-10,410,390)=0");
   Click({5, 5});
   EXPECT_EQ(window->Objects().Selected(), nullptr) << "nothing is there any more";
@@ -288,6 +294,59 @@ TEST_F(MapWindow, ToolBelongsToTheWindowThatIsActive) {
   area.setActiveSubWindow(second);
   second->RunCommand(kLineTool);
   EXPECT_EQ(tools, (std::vector<int>{kCircleTool, kSelectTool, kLineTool}));
+}
+
+TEST_F(MapWindow, KeysWorkOnTheSelection) {
+  Draw(kSquareBoxTool, 1, {10, 10}, {60, 60});
+  Draw(kSquareBoxTool, 2, {100, 100}, {160, 160});
+  const auto key = [&](Qt::Key pressed, Qt::KeyboardModifiers keys = {}) {
+    QTest::keyClick(View()->parentWidget(), pressed, keys);
+  };
+  const auto places = [&] {
+    std::string all;
+    for (const auto* object : ObjectsAboveBackground(window->Objects())) all += Text(*object) + " ";
+    return all;
+  };
+  key(Qt::Key_Right);
+  key(Qt::Key_Up, Qt::ShiftModifier);
+  EXPECT_EQ(places(), "3(101,90,161,150)=2 3(10,10,60,60)=1 ");
+  key(Qt::Key_Tab);
+  key(Qt::Key_Down);
+  EXPECT_EQ(places(), "3(101,90,161,150)=2 3(10,11,60,61)=1 ");
+  key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(window->Objects().Selected(), window->Objects().Head());
+  window->RunCommand(kCmSelectAll);
+  ExpectScreenUpToDate("selecting all");
+  key(Qt::Key_Left, Qt::ShiftModifier);
+  EXPECT_EQ(places(), "3(91,90,151,150)=2 3(0,11,50,61)=1 ");
+  ExpectScreenUpToDate("moving all");
+  window->RunCommand(kMoveTool);
+  Press({30, 30});
+  Pull({90, 90});
+  key(Qt::Key_Escape);
+  Pull({95, 95});
+  Release({95, 95});
+  EXPECT_EQ(places(), "3(91,90,151,150)=2 3(0,11,50,61)=1 ");
+  window->RunCommand(kSquareBoxTool);
+  Press({200, 200});
+  Pull({250, 250});
+  key(Qt::Key_Escape);
+  Release({250, 250});
+  window->RunCommand(kDeleteObject);
+  EXPECT_EQ(Stack(), "0");
+  ExpectScreenUpToDate("deleting all");
+  window->RunCommand(kCmUndo);
+  EXPECT_EQ(Stack(), "2 1 0");
+  ExpectScreenUpToDate("both back");
+  window->RunCommand(kMoveTool);
+  Press({380, 380});
+  Pull({200, 180});
+  ExpectScreenUpToDate("a frame");
+  Pull({300, 200});
+  ExpectScreenUpToDate("a smaller frame");
+  Release({300, 200});
+  EXPECT_EQ(window->Objects().Selected(), nullptr);
+  ExpectScreenUpToDate("no frame");
 }
 
 TEST_F(MapWindow, StepsAreTakenBackAndDoneAgain) {
