@@ -121,11 +121,11 @@ class DoneGesture : public MapGesture {
 std::vector<MapHandle> HandlesOf(const TDepthObj& object, std::int64_t roomy) {
   using enum HandleSide;
   std::vector<MapHandle> handles;
+  if (object.GetKind() == PolygonObj && object.GetRegion() == nullptr) return handles;
   int vertex = 0;
   for (const DepthPoint& point : object.GetPoints()) {
     handles.push_back({point, kNeither, kNeither, vertex++});
   }
-  if (object.GetKind() == PolygonObj && object.GetRegion() == nullptr) return handles;
   const DepthRect& rect = object.GetRect();
   handles.push_back({{rect.x1, rect.y1}, kFirst, kFirst});
   handles.push_back({{rect.x2, rect.y2}, kSecond, kSecond});

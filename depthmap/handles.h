@@ -28,7 +28,8 @@ struct MapHandle {
 };
 
 // The vertices of a polygon, the four corners of the rectangle, and the middles of its sides where
-// these are at least `roomy` pixels long. Lines have no middles.
+// these are at least `roomy` pixels long. Lines have no middles, a polygon that covers
+// nothing has no handles.
 std::vector<MapHandle> HandlesOf(const TDepthObj& object, std::int64_t roomy);
 
 // The handle at a point, up to `tolerance` pixels away but never so far that a small shape could
@@ -49,7 +50,8 @@ DepthGeometry WithHandleMoved(const TDepthObj& object, const DepthGeometry& star
 // The vertex behind which a polygon's edge leads by the point, up to `tolerance` pixels away.
 std::optional<int> EdgeAt(const TDepthObj& polygon, const DepthPoint& at, std::int64_t tolerance);
 
-// A press on such a handle; null when there is none. With Ctrl a vertex is deleted, as long as three are left.
+// A press on such a handle; null when there is none. With Ctrl a vertex is deleted, as long as
+// three are left.
 std::unique_ptr<MapGesture> PressOnHandle(TDepthList& list, const GesturePress& press);
 
 // What came of adding a vertex to a polygon.

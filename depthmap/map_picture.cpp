@@ -165,10 +165,10 @@ void MapPicture::ThinLabels(std::vector<Shown>& objects) {
 PixelRect MapPicture::WithLabels(const PixelRect& area) {
   FollowList();
   const PixelRect shown = look_.scale.Shown(area);
-  const PixelRect reached{shown.left - std::max(reach_.left, kMarkReach),
-                          shown.top - std::max(reach_.up, kMarkReach),
-                          shown.right + std::max(reach_.right, kMarkReach),
-                          shown.bottom + std::max(reach_.down, kMarkReach)};
+  const PixelRect reached{shown.left - std::max(reach_.left, kHandleReach),
+                          shown.top - std::max(reach_.up, kHandleReach),
+                          shown.right + std::max(reach_.right, kHandleReach),
+                          shown.bottom + std::max(reach_.down, kHandleReach)};
   return UnionOf(reached, std::exchange(stale_, {}));
 }
 

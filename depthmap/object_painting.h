@@ -44,6 +44,8 @@ void PaintLabelRow(RowCanvas& canvas, const LevelLabel& label, const PixelPoint&
 
 // What reaches out of an object: its marks, and lines where the map is reduced.
 inline constexpr std::int64_t kMarkReach = 2;
+// The same of a handle, which has a rim.
+inline constexpr std::int64_t kHandleReach = kMarkReach + 1;
 // Where the object's rectangle is shown, with room for its marks.
 PixelRect ShownBox(const TDepthObj& object, const MapScale& scale = {});
 

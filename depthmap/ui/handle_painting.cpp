@@ -3,24 +3,25 @@
 #include <algorithm>
 #include <cmath>
 
+#include "depthmap/object_painting.h"
+
 namespace plenovia {
 
 namespace {
 
 constexpr int kShownTolerance = 4;
-constexpr int kHalfMark = 2;
 
 // Black with a white rim, so that it shows on dark shades.
 void PaintMark(QPainter& painter, const PixelPoint& shown, const QRect& view) {
-  constexpr int kReach = kHalfMark + 1;
+  constexpr int kReach = static_cast<int>(kHandleReach);
   if (shown.x < view.left() - kReach || shown.x > view.right() + kReach ||
       shown.y < view.top() - kReach || shown.y > view.bottom() + kReach) {
     return;
   }
   const QPoint at(static_cast<int>(shown.x) - view.left(), static_cast<int>(shown.y) - view.top());
-  const QRect mark(at - QPoint(kHalfMark, kHalfMark), 2 * QSize(kHalfMark, kHalfMark));
-  painter.fillRect(mark.adjusted(-1, -1, 1, 1), Qt::white);
-  painter.fillRect(mark, Qt::black);
+  const QRect mark(at - QPoint(kReach, kReach), 2 * QSize(kReach, kReach));
+  painter.fillRect(mark, Qt::white);
+  painter.fillRect(mark.adjusted(1, 1, -1, -1), Qt::black);
 }
 
 }  // namespace
@@ -36,8 +37,10 @@ void PaintHandles(QPainter& painter, const TDepthList& list, const MapScale& sca
   const bool alone = selection.size() == 1;
   for (const TDepthObj* object : selection) {
     for (const MapHandle& handle : HandlesOf(*object, 4 * PickTolerance(scale))) {
-      const bool isCorner = handle.column != HandleSide::kNeither && handle.row != HandleSide::kNeither;
-      if (isCorner != alone) PaintMark(painter, {scale.ShownEdge(handle.at.x), scale.ShownEdge(handle.at.y)}, view);
+      const bool isCorner =
+          handle.column != HandleSide::kNeither && handle.row != HandleSide::kNeither;
+      if (isCorner != alone)
+        PaintMark(painter, {scale.ShownEdge(handle.at.x), scale.ShownEdge(handle.at.y)}, view);
     }
   }
 }

@@ -11,8 +11,8 @@
 #include "depthmap/handles.h"
 #include "depthmap/picking.h"
 #include "depthmap/ui/edit_names.h"
-#include "depthmap/ui/level_dialog.h"
 #include "depthmap/ui/handle_painting.h"
+#include "depthmap/ui/level_dialog.h"
 #include "depthmap/ui/map_keys.h"
 #include "platform/file_io.h"
 #include "platform/ui/message_box.h"
@@ -24,8 +24,7 @@ namespace plenovia {
 
 namespace {
 
-constexpr std::size_t kMostAreas = 200;  // repainted one by one
-constexpr std::int64_t kTolerance = 4;   // pixels of the display
+constexpr std::size_t kMostAreas = 200;        // repainted one by one
 constexpr std::int64_t kGreatestSide = 32767;  // of a window, in pixels
 
 DepthPoint ToDepthPoint(const QPoint& point) {

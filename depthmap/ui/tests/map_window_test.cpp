@@ -349,6 +349,36 @@ TEST_F(MapWindow, KeysWorkOnTheSelection) {
   ExpectScreenUpToDate("no frame");
 }
 
+TEST_F(MapWindow, HandlesChangeTheSelectedShape) {
+  Draw(kSquareBoxTool, 1, {40, 40}, {100, 100});
+  window->RunCommand(kSelectTool);
+  ExpectScreenUpToDate("handles");
+  const auto cursorAt = [&](QPoint at) {
+    Hover(at);
+    return View()->cursor().shape();
+  };
+  EXPECT_EQ(cursorAt({41, 39}), Qt::SizeFDiagCursor);
+  EXPECT_EQ(cursorAt({100, 71}), Qt::SizeHorCursor);
+  const auto own = cursorAt({70, 70});
+  EXPECT_NE(own, Qt::SizeHorCursor);
+  Drag({100, 70}, {120, 70});
+  EXPECT_EQ(Top(), "3(40,40,120,100)=1");
+  Press({40, 40});
+  Pull({30, 35}, Qt::AltModifier);
+  ExpectScreenUpToDate("a corner");
+  Release({30, 35});
+  EXPECT_EQ(Top(), "3(30,35,130,105)=1");
+  window->RunCommand(kPolygonTool);
+  for (const QPoint vertex : {QPoint(200, 200), {300, 200}}) Click(vertex);
+  DoubleClick({300, 300});
+  window->RunCommand(kMoveTool);
+  DoubleClick({250, 250});
+  EXPECT_EQ(Top(), "5(200,200,300,200,300,300,250,250)=1");
+  Drag({250, 250}, {220, 320});
+  EXPECT_EQ(Top(), "5(200,200,300,200,300,300,220,320)=1");
+  ExpectScreenUpToDate("points");
+}
+
 TEST_F(MapWindow, StepsAreTakenBackAndDoneAgain) {
   const auto subject = [&](int command) { return window->CommandSubject(command).toStdString(); };
   EXPECT_FALSE(window->CommandEnabled(kCmUndo));
