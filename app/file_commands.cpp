@@ -13,6 +13,7 @@
 #include "codec/graph_io.h"
 #include "codec/picture_format.h"
 #include "depthmap/depth_map_file.h"
+#include "depthmap/level_choice.h"
 #include "depthmap/ui/map_window.h"
 #include "engine/ui/sirds_wnd.h"
 #include "platform/file_io.h"
@@ -103,8 +104,10 @@ void ShowDepthMap(CommandContext& context, const QString& path, const Result<Byt
 
 void CmFileNew(CommandContext& context) {
   const TSirdsSettings& settings = context.state.settings;
-  context.desk.Adopt(*new TMapWindow(&context.desk.Area(), Commands::tr("untitled"), settings.w,
-                                     settings.h, &context.frame));
+  auto* map = new TMapWindow(&context.desk.Area(), Commands::tr("untitled"), settings.w, settings.h,
+                             &context.frame);
+  map->SetLevelAtHand(LevelThatStandsOut(kLowestLevel));
+  context.desk.Adopt(*map);
 }
 
 void CmFileOpen(CommandContext& context) {

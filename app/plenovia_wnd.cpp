@@ -17,6 +17,7 @@
 #include "app/frame_messages.h"
 #include "app/frame_placement.h"
 #include "app/help_window.h"
+#include "app/level_bar.h"
 #include "app/pattern_face.h"
 #include "app/recent_menu.h"
 #include "app/settings_path.h"
@@ -112,6 +113,7 @@ void TPlenoviaWnd::InsertBars(int location) {
   toolsPalette_->setObjectName(QStringLiteral("toolsPalette"));
   toolsPalette_->setWindowTitle(tr("Tools"));
   FillToolsPalette(*toolsPalette_, action);
+  levelBar_ = new LevelBar(this, *desk_, *busy_, *status_);
   PlaceMainBar(location);
   setStatusBar(status_);
   connect(desk_, &Desk::ToolChanged, toolsPalette_, &ButtonBar::PressButton);
@@ -125,12 +127,15 @@ void TPlenoviaWnd::PlaceMainBar(int location) {
   constexpr std::array kAreas{Qt::TopToolBarArea, Qt::LeftToolBarArea, Qt::RightToolBarArea};
   barLocation_ = location;
   const Qt::ToolBarArea area = kAreas[static_cast<std::size_t>(location)];
-  for (ButtonBar* bar : {mainBar_, toolsPalette_}) removeToolBar(bar);
+  const std::array<QToolBar*, 3> bars{mainBar_, toolsPalette_, levelBar_};
+  for (QToolBar* bar : bars) removeToolBar(bar);
   addToolBar(area, mainBar_);
   // At the left each bar has a column of its own.
   if (area == Qt::LeftToolBarArea) addToolBarBreak(area);
   addToolBar(Qt::LeftToolBarArea, toolsPalette_);
-  for (ButtonBar* bar : {mainBar_, toolsPalette_}) bar->show();
+  addToolBarBreak(Qt::LeftToolBarArea);
+  addToolBar(Qt::LeftToolBarArea, levelBar_);
+  for (QToolBar* bar : bars) bar->show();
 }
 
 void TPlenoviaWnd::SetupWindow(const ProfileFile& settings) {

@@ -16,6 +16,7 @@ namespace plenovia {
 
 class ButtonBar;
 class HelpWindow;
+class LevelBar;
 class PopupHint;
 class TCStatusBar;
 class TWelcome;
@@ -81,6 +82,7 @@ class TPlenoviaWnd : public QMainWindow {
   CommandRouter* commands_;
   ButtonBar* mainBar_ = nullptr;
   ButtonBar* toolsPalette_ = nullptr;
+  LevelBar* levelBar_ = nullptr;
   QPointer<TWelcome> welcome_;
   QTimer settingsDelay_;
   QPointer<HelpWindow> help_;

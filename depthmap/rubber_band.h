@@ -26,6 +26,9 @@ class RubberBand {
   // The rectangle of anything but a polygon.
   void SetRect(const DepthRect& rect);
 
+  // The rectangle of anything but a polygon; nothing else is asked for it.
+  const DepthRect& Rect() const { return shape_->GetRect(); }
+
   // The vertices of a polygon, without a limit. A new one takes the line away.
   void AddVertex(const DepthPoint& point);
   std::span<const DepthPoint> Vertices() const;

@@ -1,5 +1,6 @@
 #include "depthmap/ui/map_window.h"
 
+#include <QAbstractScrollArea>
 #include <QImage>
 #include <QPointer>
 #include <algorithm>
@@ -9,11 +10,14 @@
 
 #include "depthmap/depth_map_file.h"
 #include "depthmap/handles.h"
+#include "depthmap/level_choice.h"
 #include "depthmap/picking.h"
 #include "depthmap/ui/edit_names.h"
 #include "depthmap/ui/handle_painting.h"
 #include "depthmap/ui/level_dialog.h"
+#include "depthmap/ui/level_keys.h"
 #include "depthmap/ui/map_keys.h"
+#include "depthmap/ui/map_words.h"
 #include "platform/file_io.h"
 #include "platform/ui/message_box.h"
 #include "platform/ui/private_message.h"
@@ -45,6 +49,8 @@ TMapWindow::TMapWindow(QMdiArea* client, const QString& title, int width, int he
   SetList(std::make_shared<TDepthList>(width, height));
   SetFileName(title);
   SetTool(kSelectTool);
+  auto* view = findChild<QAbstractScrollArea*>(QStringLiteral("client"));
+  new LevelKeys(*this, *view, *view->viewport());
   SetWindowSize({width, height});
   ResizeToMap();
 }
@@ -160,10 +166,8 @@ QString TMapWindow::SavingText(const QString&) const {
 
 DocumentStatus TMapWindow::Status() const {
   const DepthMapInfo info = GetBitmapInfo();
-  DocumentStatus status = PictureStatus(info.width, info.height, info.bitsPerPixel,
-                                        static_cast<std::int64_t>(GetImageSize()));
-  if (remark_) status.message = remark_;
-  return status;
+  return PictureStatus(info.width, info.height, info.bitsPerPixel,
+                       static_cast<std::int64_t>(GetImageSize()));
 }
 
 bool TMapWindow::HandlesCommand(int command) const {
@@ -228,7 +232,30 @@ void TMapWindow::CmSetLevel() {
   const std::shared_ptr<TDepthList> list = list_;
   std::int32_t level = list->CurrentLevel();
   TLevelDialog dialog(window(), level);
-  if (dialog.exec() == QDialog::Accepted) list->SetCurrentLevel(level);
+  const QPointer<TMapWindow> alive(this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  list->SetCurrentLevel(level);
+  if (alive) StateMayHaveChanged();
+}
+
+std::int32_t TMapWindow::LevelAtHand() const {
+  const TDepthObj* selected = list_->Selected();
+  return selected != nullptr ? selected->GetLevel() : list_->CurrentLevel();
+}
+
+void TMapWindow::SetLevelAtHand(std::int32_t level) {
+  {
+    const MapEdit step(*list_, EditKind::kSetLevel);
+    for (const TDepthObj* object : list_->Selection()) list_->SetObjectLevel(object, level);
+  }
+  list_->SetCurrentLevel(level);
+  StateMayHaveChanged();
+  Q_EMIT Told(tr("Level %1").arg(level));
+}
+
+void TMapWindow::EndLevelChange() {
+  list_->EndEdit();
+  StateMayHaveChanged();
 }
 
 void TMapWindow::EvMDIActivate(bool active) {
@@ -240,7 +267,9 @@ void TMapWindow::EvMDIActivate(bool active) {
 void TMapWindow::StateMayHaveChanged() {
   RepaintChanged();
   const bool changed = knownSaved_ != IsSaved() || knownSelected_ != list_->Selected() ||
-                       knownUndo_ != list_->UndoKind() || knownRedo_ != list_->RedoKind();
+                       knownUndo_ != list_->UndoKind() || knownRedo_ != list_->RedoKind() ||
+                       knownLevels_ != std::pair(LevelAtHand(), list_->CurrentLevel());
+  knownLevels_ = {LevelAtHand(), list_->CurrentLevel()};
   knownSaved_ = IsSaved();
   knownSelected_ = list_->Selected();
   knownUndo_ = list_->UndoKind();
@@ -393,6 +422,7 @@ void TMapWindow::LeftDrag(int x, int y) {
   rubber_.SetRect(ToDepthRect(Tracking()));
   rubber_.SetClosed(true);
   InvalidateRubber();
+  if (rubber_.IsActive()) Q_EMIT Told(DrawingWords(rubber_, list_->CurrentLevel()));
 }
 
 void TMapWindow::OnLButtonUp(MouseKeys, QPoint) {
@@ -414,6 +444,9 @@ void TMapWindow::HoverMove(int x, int y) {
   }
   SetLastPoint(x, y);
   ShowHandleCursor(QPoint(x, y));
+  const QString place = PlaceWords(*list_, {x, y}, look_.scale);
+  const QString drawing = DrawingWords(rubber_, list_->CurrentLevel());
+  Q_EMIT Told(drawing.isEmpty() ? place : tr("%1 (%2)").arg(drawing, place));
 }
 
 void TMapWindow::ShowHandleCursor(QPoint point) {
@@ -430,20 +463,20 @@ void TMapWindow::OnLButtonDblClk(MouseKeys, QPoint point) {
   if (tool_ == kPolygonTool && rubber_.IsPolygon()) FinishPolygon();
   if (!PicksObjects(tool_)) return;
   const auto added = AddPointAt(*list_, ToDepthPoint(point), PickTolerance(look_.scale));
-  if (added == AddedPoint::kTooMany) Remark(tr("A polygon has at most 64 points."));
+  if (added == AddedPoint::kTooMany) Q_EMIT Told(tr("A polygon has at most 64 points."));
   StateMayHaveChanged();
 }
 
-void TMapWindow::Remark(const QString& remark) {
-  remark_ = remark;
-  SendPrivateMessage(Frame(), PrivateMessage(WM_UPDATESTATUS));
-  remark_.reset();
+void TMapWindow::AddShape() {
+  AddDrawn(std::make_unique<TDepthObj>(nullptr, ToDepthRect(Tracking()), KindOfTool(tool_),
+                                       list_->CurrentLevel()));
+  list_->Select(list_->Head());
 }
 
-void TMapWindow::AddShape() {
-  list_->AddObject(std::make_unique<TDepthObj>(nullptr, ToDepthRect(Tracking()), KindOfTool(tool_),
-                                               list_->CurrentLevel()));
-  list_->Select(list_->Head());
+void TMapWindow::AddDrawn(std::unique_ptr<TDepthObj> object) {
+  const bool seen = StandsOut(*object, *list_);
+  list_->AddObject(std::move(object));
+  Q_EMIT Told(seen ? QString() : HiddenWords(list_->CurrentLevel()));
 }
 
 void TMapWindow::AddVertex(QPoint point) {
@@ -460,7 +493,7 @@ void TMapWindow::FinishPolygon() {
   auto polygon =
       std::make_unique<TDepthObj>(nullptr, DepthRect{}, PolygonObj, list_->CurrentLevel());
   polygon->SetPoints(rubber_.Vertices());
-  list_->AddObject(std::move(polygon));
+  AddDrawn(std::move(polygon));
   InvalidateRubber();
   rubber_.Stop();
   list_->Invalidate(list_->Head());

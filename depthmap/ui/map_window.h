@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "depthmap/depth_list.h"
@@ -58,6 +59,14 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   // unsaved as it was. The user is not told.
   [[nodiscard]] Result<void> WriteDepthMap(const QString& path);
 
+  // The level of what is selected last, or that of the next shape when nothing is. Setting it gives
+  // it to all that is selected and to the next shape. What is set between the two calls is one step
+  // to undo.
+  std::int32_t LevelAtHand() const;
+  void SetLevelAtHand(std::int32_t level);
+  void BeginLevelChange() { list_->BeginEdit(EditKind::kSetLevel); }
+  void EndLevelChange();
+
   int CurrentTool() const { return tool_; }
   // Numbers that are no tool's are ignored.
   void SetTool(int id);
@@ -75,6 +84,10 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   QString SavingText(const QString& path) const override;
   DocumentStatus Status() const override;
   DocumentDepth Depth() const override { return {nullptr, 1.0, Levels()}; }
+
+ Q_SIGNALS:
+  // Something for the status bar to show.
+  void Told(const QString& text);
 
  protected:
   void Paint(QPainter& painter, const QRect& exposed) override;
@@ -109,12 +122,11 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   void PressOnObjects(MouseKeys keys, QPoint point);
   void ShowFrame();
   void ShowHandleCursor(QPoint point);
-  // Tells the user in the status bar.
-  void Remark(const QString& remark);
   // Ends what the mouse has begun, as it is or as if it had not been begun. False when there is
   // nothing.
   bool EndGesture(bool cancelled);
   void AddShape();
+  void AddDrawn(std::unique_ptr<TDepthObj> object);
   void AddVertex(QPoint point);
   void FinishPolygon();
   void CmSetLevel();
@@ -128,8 +140,8 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   std::vector<PixelRect> changed_;       // still to be repainted
   QSize extent_;                         // of the map as it is shown
   int tool_ = kSelectTool;
-  std::optional<QString> remark_;  // while the status bar asks for it
   bool knownSaved_ = false;
+  std::pair<std::int32_t, std::int32_t> knownLevels_;  // at hand, of the next shape
   std::optional<EditKind> knownUndo_;
   std::optional<EditKind> knownRedo_;
   const TDepthObj* knownSelected_ = nullptr;  // compared only

@@ -17,6 +17,8 @@ enum Command {
   kCmActualSize = 113,
   kCmZoomToFit = 114,
   kCmMapView = 115,
+  kCmMapSize = 116,
+  kCmMapSteps = 117,
   kCmVideoInformation = 119,
   kCmStopProcess = 205,
   kCmCopy = 221,
