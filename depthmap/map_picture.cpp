@@ -35,9 +35,8 @@ PixelRect UnionOf(const PixelRect& a, const PixelRect& b) {
 
 // Maps of few levels are shaded with all grays too.
 std::int32_t LightestFor(std::int32_t highest) {
-  std::int32_t lightest = 15;
-  while (lightest < std::min(highest, kHighestLevel)) lightest = 2 * lightest + 1;
-  return lightest;
+  constexpr std::int32_t kLeast = 8;
+  return std::clamp(highest, kLeast, kHighestLevel);
 }
 
 }  // namespace
