@@ -60,6 +60,7 @@ constexpr CommandRow kCommands[] = {
     {kGraphics, kCmPatterns, T("SIRDS &Patterns"), T("Select a SIRDS Pattern"), &CmPatterns, nullptr, "Ctrl+T"},
     {kGraphics, kCmColorTable, T("Color &Table"), T("View the Color Map for a loaded image"), &CmColorTable, &HasColours},
     {kMath, kCmVersion, T("&Version"), T("Get Math Library version"), &CmVersion, nullptr},
+    {kMath, kCmFormula, T("&Formula..."), T("Make a stereogram of a formula z = f(x, y)"), &CmFormula, nullptr},
     {kMath, 0, nullptr, nullptr, nullptr, nullptr},
     {kWindow, kCmCascade, T("&Cascade"), T("Cascade all Windows"), &CmCascade, &HasWindows},
     {kWindow, kCmTile, T("&Tile"), T("Tile all Windows"), &CmTile, &HasWindows},

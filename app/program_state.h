@@ -11,6 +11,7 @@
 #include "images/ui/clipboard.h"
 #include "images/ui/printer_int.h"
 #include "platform/on_demand.h"
+#include "sources/formula.h"
 
 namespace plenovia {
 
@@ -22,6 +23,8 @@ class ProgramState : public QObject {
 
   // The one record of stereogram parameters.
   TSirdsSettings settings;
+  // The formula that a stereogram was made of last.
+  Formula formula = FormulaExamples().front().formula;
   // The pattern library, read from its files when it is first needed; null before the settings are
   // loaded.
   OnDemand<TSirdPatt> patterns;

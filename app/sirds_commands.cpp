@@ -31,6 +31,7 @@
 #include "platform/ui/private_message.h"
 #include "platform/ui/resource_pictures.h"
 #include "platform/ui/text.h"
+#include "sources/ui/formula_dialog.h"
 
 namespace plenovia {
 
@@ -129,6 +130,18 @@ void CmFigure(CommandContext& context, int command) {
   const TSirdsSettings& settings = context.state.settings;
   MakeInNewWindow(context, FigureTitle(number), QString(), QSize(settings.w, settings.h),
                   [number](TSirdsWnd& window) { return window.MakeSirdFromFigure(-(number + 1)); });
+}
+
+void CmFormula(CommandContext& context) {
+  FormulaDialog dialog(&context.frame, context.state.formula);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const Formula formula = context.state.formula = dialog.Chosen();
+  const TSirdsSettings& settings = context.state.settings;
+  const auto draw = [formula](const RunInput& input) {
+    return DrawFormula(formula, input.settings.w, input.settings.h, input.threads, input.monitor);
+  };
+  MakeInNewWindow(context, Commands::tr("Formula"), QString(), QSize(settings.w, settings.h),
+                  [&draw](TSirdsWnd& window) { return window.MakeSirdFromFine(draw); });
 }
 
 void CmWizard(CommandContext& context) {

@@ -11,6 +11,8 @@ struct CommandContext;
 void CmMakeSirds(CommandContext& context);
 // The stereogram of a mathematical figure in a new window; `command` is 301 + its number.
 void CmFigure(CommandContext& context, int command);
+// Asks for a formula and makes its stereogram in a new window.
+void CmFormula(CommandContext& context);
 void CmWizard(CommandContext& context);
 void CmSettings(CommandContext& context);
 void CmPatterns(CommandContext& context);

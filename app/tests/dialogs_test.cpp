@@ -50,6 +50,27 @@ TEST_F(Dialogs, PatternsAreChosenForTheNextStereogram) {
   EXPECT_EQ(Frame().Patterns()->GetCurrentIndex(), 19);
 }
 
+TEST_F(Dialogs, AFormulaIsMadeInTheSizeOfTheSettingsAndComesBack) {
+  DialogAnswers answers;
+  answers.Add([](QDialog& dialog) {
+    Type(dialog, "edit102", QStringLiteral("sin(r) / 2"));
+    Press(dialog, "button1");
+  });
+  Run(kCmFormula);
+  TSirdsWnd* made = ActivePicture();
+  ASSERT_NE(made, nullptr);
+  EXPECT_EQ(made->GetTitle(), QStringLiteral("formula"));
+  EXPECT_EQ(made->Picture()->width(), Frame().Settings().w);
+  EXPECT_TRUE(made->IsStereogram());
+  answers.Add([](QDialog& dialog) {
+    EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("edit102"))->text(),
+              QStringLiteral("sin(r) / 2"));
+    Press(dialog, "button2");
+  });
+  Run(kCmFormula);
+  EXPECT_EQ(ActivePicture(), made);
+}
+
 TEST_F(Dialogs, WizardMakesAFigure) {
   DialogAnswers answers;
   const auto next = [](QDialog& dialog) { Press(dialog, "button101"); };

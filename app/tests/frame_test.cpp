@@ -129,11 +129,12 @@ TEST_F(FrameTest, FiguresFollowTheVersionInTheirMenu) {
   const QList<QAction*> tops = Frame().menuBar()->actions();
   ASSERT_EQ(tops.size(), 6);
   const QList<QAction*> items = tops[3]->menu()->actions();
-  ASSERT_EQ(items.size(), 32);
+  ASSERT_EQ(items.size(), 33);
   EXPECT_EQ(items[0]->text(), QStringLiteral("&Version"));
-  EXPECT_TRUE(items[1]->isSeparator());
-  EXPECT_EQ(items[2]->data().toInt(), kCmFirstFigure);
-  EXPECT_TRUE(items[31]->isEnabled());
+  EXPECT_EQ(items[1]->text(), QStringLiteral("&Formula..."));
+  EXPECT_TRUE(items[2]->isSeparator());
+  EXPECT_EQ(items[3]->data().toInt(), kCmFirstFigure);
+  EXPECT_TRUE(items[32]->isEnabled());
 }
 
 TEST_F(FrameTest, AvailabilityFollowsTheActiveWindow) {

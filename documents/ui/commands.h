@@ -28,6 +28,7 @@ enum Command {
   kCmSelectAll = 227,
   kCmFirstFigure = 301,
   kCmLastFigure = 330,
+  kCmFormula = 397,
   kCmVersion = 398,
   kCmHelpIndex = 901,
   kCmHelpSirds = 902,

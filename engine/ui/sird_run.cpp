@@ -52,6 +52,18 @@ SirdRun RunFromMap(std::shared_ptr<const LevelGrid> map,
       std::move(pattern), settings, std::move(range)};
 }
 
+SirdRun RunFromFine(FineDrawing draw, std::shared_ptr<const IndexedImage> pattern,
+                    const TSirdsSettings& settings) {
+  constexpr LevelRange kLevels = {0, 255};
+  FittedRange range = RangeAsSet(settings);
+  if (settings.fitRange != 0) range = FitDepthRange(kLevels, SourceKind::kImage, settings);
+  return {[draw = std::move(draw)](const RunInput& input) {
+            return draw(input).and_then(
+                [&](const FineImage& levels) { return MakeSirdFromFineImage(levels, input); });
+          },
+          std::move(pattern), settings, std::move(range)};
+}
+
 SirdRun RunFromFigure(std::int32_t code, std::shared_ptr<const IndexedImage> background,
                       const QString& title, std::shared_ptr<const IndexedImage> pattern,
                       const TSirdsSettings& settings) {

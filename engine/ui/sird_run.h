@@ -9,6 +9,7 @@
 #include "engine/fit_depth_range.h"
 #include "engine/generation.h"
 #include "engine/sirds_settings.h"
+#include "platform/fine_image.h"
 #include "platform/indexed_image.h"
 #include "platform/level_grid.h"
 #include "platform/result.h"
@@ -33,6 +34,10 @@ SirdRun RunFromPicture(std::shared_ptr<const IndexedImage> source, double zoom,
                        std::shared_ptr<const IndexedImage> pattern, const TSirdsSettings& settings);
 SirdRun RunFromMap(std::shared_ptr<const LevelGrid> map,
                    std::shared_ptr<const IndexedImage> pattern, const TSirdsSettings& settings);
+// A picture of fine levels that the run draws first; its highest level is 255.
+using FineDrawing = std::function<Result<FineImage>(const RunInput&)>;
+SirdRun RunFromFine(FineDrawing draw, std::shared_ptr<const IndexedImage> pattern,
+                    const TSirdsSettings& settings);
 // `code` is -(number of the figure + 1), `background` may be null, `title` is the caption.
 SirdRun RunFromFigure(std::int32_t code, std::shared_ptr<const IndexedImage> background,
                       const QString& title, std::shared_ptr<const IndexedImage> pattern,

@@ -56,6 +56,11 @@ Result<void> TSirdsWnd::MakeSirdFromDepthMap(std::shared_ptr<const LevelGrid> ma
   return Draw(RunFromMap(std::move(map), std::move(pattern), *settings_));
 }
 
+Result<void> TSirdsWnd::MakeSirdFromFine(FineDrawing draw) {
+  auto pattern = CurrentPattern();
+  return Draw(RunFromFine(std::move(draw), std::move(pattern), *settings_));
+}
+
 Result<void> TSirdsWnd::MakeSirdFromFigure(std::int32_t code) {
   auto pattern = CurrentPattern();
   return Draw(RunFromFigure(code, settings_->useBmp != 0 ? Picture() : nullptr, GetTitle(),

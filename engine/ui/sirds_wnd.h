@@ -42,6 +42,8 @@ class TSirdsWnd : public TPictureWnd {
 
   // The stereogram of a depth map.
   [[nodiscard]] Result<void> MakeSirdFromDepthMap(std::shared_ptr<const LevelGrid> map);
+  // The stereogram of fine levels.
+  [[nodiscard]] Result<void> MakeSirdFromFine(FineDrawing draw);
   // The stereogram of a mathematical figure, over the window's picture when it has one and the
   // settings ask for that. `code` is below 0: -(number of the figure + 1).
   [[nodiscard]] Result<void> MakeSirdFromFigure(std::int32_t code);

@@ -36,9 +36,10 @@ const std::map<std::string, std::set<std::string>> kRooms = {
     {"engine/ui",
      {"codec", "documents/ui", "engine", "figures", "images", "images/ui", "platform",
       "platform/ui"}},
+    {"sources/ui", {"engine", "platform", "platform/ui", "sources"}},
     {"app",
      {"codec", "depthmap", "depthmap/ui", "documents/ui", "engine", "engine/ui", "figures",
-      "images", "images/ui", "platform", "platform/ui"}},
+      "images", "images/ui", "platform", "platform/ui", "sources", "sources/ui"}},
     {"testing/ui", {"testing", "platform"}},
 };
 
