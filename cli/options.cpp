@@ -136,7 +136,12 @@ void AddMarkers(CLI::App& command, TSirdsSettings& settings) {
         name, [&settings, marker] { settings.marker = marker; }, meaning);
   };
   CLI::Option* with = add("--markers", 1, "Draw two squares to fuse the eyes on (default)");
-  add("--no-markers", 0, "Leave them out")->excludes(with);
+  CLI::Option* without = add("--no-markers", 0, "Leave them out")->excludes(with);
+  command
+      .add_flag_callback(
+          "--large-markers", [&settings] { settings.marker = settings.bigMarker = 1; },
+          "Draw them large, in a colour that contrasts\nwith the pattern")
+      ->excludes(without);
 }
 
 int RunOptions::Threads() const {
@@ -168,7 +173,9 @@ std::string OptionsOf(const Recipe& recipe) {
     const auto by = std::ranges::find(kDepthBy, settings.depthSel, &Words::value_type::second);
     options += " --depth-by " + by->first;
   }
-  options += settings.marker != 0 ? " --markers" : " --no-markers";
+  options += settings.marker == 0      ? " --no-markers"
+             : settings.bigMarker != 0 ? " --large-markers"
+                                       : " --markers";
   if (kind == RecipeKind::kFigure || kind == RecipeKind::kFormula) {
     add("--width", settings.w);
     add("--height", settings.h);

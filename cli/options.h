@@ -50,7 +50,7 @@ ScanOptions AddScanOptions(CLI::App& command, TSirdsSettings& settings);
 [[nodiscard]] Outcome<void> CheckDepthRange(const TSirdsSettings& settings);
 // --depth-by.
 CLI::Option* AddDepthBy(CLI::App& command, TSirdsSettings& settings);
-// --markers and --no-markers.
+// --markers, --large-markers and --no-markers.
 void AddMarkers(CLI::App& command, TSirdsSettings& settings);
 // --threads and -q.
 struct RunOptions {

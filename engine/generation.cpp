@@ -149,7 +149,10 @@ Result<IndexedImage> Generate(const Canvas& canvas, const DepthSource& source,
   auto result = ShiftRows(canvas, source, input);
   if (!result) return result;
   if (caption) caption(*result);
-  if (input.settings.marker != 0) DrawMarkers(*result, canvas.gap);
+  if (input.settings.marker != 0) {
+    DrawMarkers(*result, canvas.gap,
+                input.settings.bigMarker != 0 ? MarkerSize::kLarge : MarkerSize::kSmall);
+  }
   return result;
 }
 

@@ -12,7 +12,7 @@ namespace plenovia {
 namespace {
 
 constexpr std::int32_t kMostPixels = 32767;
-constexpr std::array<SettingKey, 13> kKeys = {{
+constexpr std::array<SettingKey, 14> kKeys = {{
     {"dx", &TSirdsSettings::dx, -kMostPixels, kMostPixels},
     {"dy", &TSirdsSettings::dy, -kMostPixels, kMostPixels},
     {"da", &TSirdsSettings::da, -180, 180},
@@ -22,6 +22,7 @@ constexpr std::array<SettingKey, 13> kKeys = {{
     {"h", &TSirdsSettings::h, 1, kMostPixels},
     {"gapValue", &TSirdsSettings::gapValue, 2, 4096},
     {"Marker", &TSirdsSettings::marker, 0, 1},
+    {"BigMarker", &TSirdsSettings::bigMarker, 0, 1},
     {"UseBMP", &TSirdsSettings::useBmp, 0, 1},
     {"DepthSel", &TSirdsSettings::depthSel, kDepthByColor, kDepthByBrightness},
     {"ShiftDir", &TSirdsSettings::scanMethod},
@@ -72,6 +73,7 @@ TSirdsSettings Settle(TSirdsSettings settings) {
   }
   if (!IsScanMethod(settings.scanMethod)) settings.scanMethod = defaults.scanMethod;
   settings.marker = settings.marker != 0 ? 1 : 0;
+  settings.bigMarker = settings.bigMarker != 0 ? 1 : 0;
   settings.useBmp = settings.useBmp != 0 ? 1 : 0;
   settings.fitRange = settings.fitRange != 0 ? 1 : 0;
   settings.dx = ZeroBeyond(settings.dx, 200);
@@ -93,6 +95,7 @@ TSirdsSettings Normalise(const SirdsSettingsEntry& entry) {
   settings.depthSel = entry.depthByColor ? kDepthByColor : kDepthByBrightness;
   settings.scanMethod = entry.scanPosition + 1;
   settings.marker = entry.addMarkers ? 1 : 0;
+  settings.bigMarker = entry.bigMarkers ? 1 : 0;
   settings.useBmp = entry.useOpenBitmap ? 1 : 0;
   settings.fitRange = entry.fitRange ? 1 : 0;
   for (const TypedNumber& number : kTypedNumbers) {

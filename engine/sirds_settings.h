@@ -30,6 +30,7 @@ struct TSirdsSettings {
   std::int32_t marker = 1;  // 1: two marker squares are drawn
   std::int32_t useBmp = 0;  // 1: a figure is drawn over the open picture
   std::int32_t scanMethod = kMcMahon;
+  std::int32_t bigMarker = 0;  // 1: the markers are large and contrast with the pattern
   // 1: a window fits the depth range of a run to the source where that needs it
   std::int32_t fitRange = 1;
 
@@ -56,6 +57,7 @@ struct SirdsSettingsEntry {
   bool depthByColor = true;
   int scanPosition = 0;  // position in the list of scan methods, from 0
   bool addMarkers = true;
+  bool bigMarkers = false;
   bool useOpenBitmap = false;
   bool fitRange = true;
 };

@@ -186,6 +186,7 @@ constexpr std::array kKnownWords = {
     "180",
     "--markers",
     "--no-markers",
+    "--large-markers",
     "--background",
     "--threads",
     "2",

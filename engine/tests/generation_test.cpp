@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "engine/bands.h"
+#include "engine/markers.h"
 #include "engine/tests/plain_shift.h"
 #include "engine/tiling.h"
 #include "testing/picture_compare.h"
@@ -101,6 +102,35 @@ TEST_F(Generation, MarkersStandOnBothSidesOfTheMiddle) {
       if (dx <= 2 && dy <= 2) expected = dx == 2 || dy == 2 ? black : yellow;
       ASSERT_EQ(marked.Row(y)[column], expected) << x << ", " << y;
     }
+  }
+}
+
+// Whether the palette has room or not, the squares differ from all that is around them.
+TEST(Markers, LargeOnesContrastWithTheirRows) {
+  const Rgb warm[] = {{255, 255, 0}, {250, 240, 20}, {255, 0, 0}, {240, 30, 10}};
+  for (const bool full : {false, true}) {
+    Palette palette = Palette(warm).Widened();
+    for (int i = 4; full && i < 256; ++i) palette.Set(i, {0, 0, static_cast<std::uint8_t>(i)});
+    IndexedImage picture = IndexedImage::Create(400, 40, palette).value();
+    Random random(5);
+    for (int y = 0; y < picture.height(); ++y) {
+      for (std::uint8_t& pixel : picture.Row(y)) {
+        pixel = static_cast<std::uint8_t>(random.Int(0, full && y > 30 ? 255 : 3));
+      }
+    }
+    const IndexedImage before = picture;
+    DrawMarkers(picture, 100, MarkerSize::kLarge);
+    const Rgb inside = picture.palette()[picture.Row(11)[150]];
+    EXPECT_GT(inside.blue, 200);
+    EXPECT_LT(inside.red, 50);
+    int changed = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (std::size_t x = 0; x < 400; ++x) {
+        changed += picture.palette()[picture.Row(y)[x]] != before.palette()[before.Row(y)[x]];
+      }
+    }
+    EXPECT_GE(changed,
+              full ? 2 * 9 * 9 : 2 * 13 * 13);  // a full palette has no colour for the outline
   }
 }
 

@@ -116,7 +116,8 @@ TEST(SettingsFile, KeepsEveryFieldAndEverythingElse) {
                                 .depthSel = 2,
                                 .marker = 0,
                                 .useBmp = 1,
-                                .scanMethod = 3};
+                                .scanMethod = 3,
+                                .bigMarker = 1};
   TempFolder folder;
   ProfileFile profile;
   profile.SetText("Other", "Key", "kept");

@@ -51,6 +51,7 @@ TSettDialog::TSettDialog(QWidget* parent, TSirdsSettings& settings)
       settings_(settings),
       note_(MakeNote(kNoteLines)),
       markers_(MakeCheck(109, tr("Add Markers"))),
+      bigMarkers_(MakeCheck(116, tr("Large Markers"))),
       useBitmap_(MakeCheck(111, tr("Use Open Bitmap"))),
       byColor_(MakeRadio(108, tr("Depth by Color"))),
       byBrightness_(MakeRadio(112, tr("Depth by Brightness"))),
@@ -80,6 +81,7 @@ TSettDialog::TSettDialog(QWidget* parent, TSirdsSettings& settings)
   all->addLayout(MakeOkCancelRow(this));
   all->setSizeConstraint(QLayout::SetFixedSize);
 
+  connect(markers_, &QCheckBox::toggled, bigMarkers_, &QWidget::setEnabled);
   connect(restore_, &QCheckBox::clicked, this, &TSettDialog::RestoreClicked);
   SetupWindow();
   numbers_.front()->setFocus();
@@ -124,6 +126,7 @@ QGroupBox* TSettDialog::MakeOptions() {
   group->setObjectName(QStringLiteral("group301"));
   auto* all = new QVBoxLayout(group);
   all->addWidget(markers_);
+  all->addWidget(bigMarkers_);
   all->addWidget(useBitmap_);
   all->addWidget(byColor_);
   all->addWidget(byBrightness_);
@@ -141,6 +144,8 @@ void TSettDialog::SetupWindow() {
   (settings_.depthSel == kDepthByColor ? byColor_ : byBrightness_)->setChecked(true);
   scanMethod_->setCurrentIndex(settings_.scanMethod - 1);
   markers_->setChecked(settings_.marker != 0);
+  bigMarkers_->setChecked(settings_.bigMarker != 0);
+  bigMarkers_->setEnabled(markers_->isChecked());
   useBitmap_->setChecked(settings_.useBmp != 0);
   fitRange_->setChecked(settings_.fitRange != 0);
 }
@@ -161,6 +166,7 @@ SirdsSettingsEntry TSettDialog::Entry() const {
   entry.depthByColor = byColor_->isChecked();
   entry.scanPosition = scanMethod_->currentIndex();
   entry.addMarkers = markers_->isChecked();
+  entry.bigMarkers = bigMarkers_->isChecked();
   entry.useOpenBitmap = useBitmap_->isChecked();
   entry.fitRange = fitRange_->isChecked();
   return entry;

@@ -39,6 +39,7 @@ class TSettDialog : public QDialog {
   std::array<QLineEdit*, 8> numbers_;  // as kNumbers
   QLabel* note_;
   QCheckBox* markers_;
+  QCheckBox* bigMarkers_;
   QCheckBox* useBitmap_;
   QRadioButton* byColor_;
   QRadioButton* byBrightness_;
