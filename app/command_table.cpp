@@ -6,6 +6,7 @@
 #include "app/exchange_commands.h"
 #include "app/file_commands.h"
 #include "app/info_commands.h"
+#include "app/map_commands.h"
 #include "app/save_commands.h"
 #include "app/sirds_commands.h"
 #include "app/view_commands.h"
@@ -44,6 +45,9 @@ constexpr CommandRow kCommands[] = {
     {kEdit, kCmPaste, T("&Paste"), T("Paste from Clipboard"), &CmPaste, &CanPaste, "Ctrl+V"},
     {kEdit, 0, nullptr, nullptr, nullptr, nullptr},
     {kEdit, kCmSelectAll, T("Select &All"), T("Select all shapes of the depth map"), nullptr, nullptr, "Ctrl+A"},
+    {kEdit, 0, nullptr, nullptr, nullptr, nullptr},
+    {kEdit, kCmMapSteps, T("Make &Steps..."), T("Make the selected shape into a slope or a round of steps"), nullptr, nullptr, "N"},
+    {kEdit, kCmMapSize, T("Map Si&ze..."), T("Give the depth map another size"), &CmMapSize, &HasMap},
     {kGraphics, kCmVideoInformation, T("&Video Information"), T("Get Information about the operating video driver"), &CmVideoInformation, nullptr},
     {kGraphics, 0, nullptr, nullptr, nullptr, nullptr},
     {kGraphics, kCmZoomIn, T("Zoom &In"), T("Zoom In"), nullptr, &IsIdle, "Ctrl++; Ctrl+="},

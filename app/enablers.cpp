@@ -32,6 +32,10 @@ bool HasPicture(const CommandContext& context) {
   return IsIdle(context) && ActiveKind(context) == kPictureWindow;
 }
 
+bool HasMap(const CommandContext& context) {
+  return ActiveKind(context) == kDepthMapWindow;
+}
+
 bool HasColours(const CommandContext& context) {
   const int kind = ActiveKind(context);
   return IsIdle(context) && (kind == kPictureWindow || kind == kColourTableWindow);

@@ -9,6 +9,7 @@ bool IsIdle(const CommandContext& context);
 bool IsBusy(const CommandContext& context);
 bool CanSave(const CommandContext& context);
 // The active window is a picture's.
+bool HasMap(const CommandContext& context);
 bool HasPicture(const CommandContext& context);
 // A picture or a colour table is active.
 bool HasColours(const CommandContext& context);

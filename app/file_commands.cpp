@@ -103,9 +103,9 @@ void ShowDepthMap(CommandContext& context, const QString& path, const Result<Byt
 }  // namespace
 
 void CmFileNew(CommandContext& context) {
-  const TSirdsSettings& settings = context.state.settings;
-  auto* map = new TMapWindow(&context.desk.Area(), Commands::tr("untitled"), settings.w, settings.h,
-                             &context.frame);
+  const QSize size = context.state.newMapSize.Of(context.state.settings);
+  auto* map = new TMapWindow(&context.desk.Area(), Commands::tr("untitled"), size.width(),
+                             size.height(), &context.frame);
   map->SetLevelAtHand(LevelThatStandsOut(kLowestLevel));
   context.desk.Adopt(*map);
 }

@@ -198,6 +198,7 @@ void TPlenoviaWnd::LoadSettings(const ProfileFile& settings) {
   state_->saveFormat = settings.GetInt("GRAPHICS", "SaveFormat", state_->saveFormat);
   state_->settings = LoadSirdsSettings(settings);
   state_->recentFiles = RecentFiles::Load(settings);
+  state_->newMapSize = NewMapSize::Load(settings);
   state_->openFolder = PathToQString(settings.GetText("Files", "Folder", ""));
   Q_EMIT state_->FilesChanged();
 }
@@ -216,6 +217,7 @@ void TPlenoviaWnd::SaveSettings() {
   }
   StoreSirdsSettings(state_->settings, *file);
   state_->recentFiles.Store(*file);
+  state_->newMapSize.Store(*file);
   if (!state_->openFolder.isEmpty()) {
     file->SetText("Files", "Folder", ToPath(state_->openFolder).string());
   }

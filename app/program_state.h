@@ -5,6 +5,7 @@
 #include <QString>
 #include <memory>
 
+#include "app/new_map_size.h"
 #include "app/recent_files.h"
 #include "engine/sirds_settings.h"
 #include "images/sird_patt.h"
@@ -34,6 +35,7 @@ class ProgramState : public QObject {
   // GraphicFormat of the last lossless picture format that was saved: PNG at first.
   int saveFormat = 6;
   RecentFiles recentFiles;
+  NewMapSize newMapSize;
   // Where the open dialog found a file last; empty before.
   QString openFolder;
   // Null until the frame is shown.

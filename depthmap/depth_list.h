@@ -57,6 +57,10 @@ class TDepthList final : public LevelGrid {
   // Whether the map is as it was when it was marked saved, also after undo.
   bool IsSaved() const { return saved_ == contents_; }
   void MarkSaved() { saved_ = contents_; }
+  // It is like none that was saved.
+  void MarkUnsaved() { saved_ = 0; }
+  // Names what the map holds: of one list, equal numbers name equal maps. Never 0.
+  std::uint64_t Contents() const { return contents_; }
 
   // From here on changes can be undone.
   void KeepHistory(std::size_t memory = MapHistory::kMemory);

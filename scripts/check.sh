@@ -31,6 +31,7 @@ ctest --preset tsan
 
 echo "== the desktop program on a virtual display"
 scripts/desktop_smoke.sh build/release/bin samples
+scripts/crash_recovery.sh build/release/bin
 
 echo "== the Debian package"
 scripts/package_check.sh build/release

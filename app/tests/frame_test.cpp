@@ -169,7 +169,7 @@ TEST_F(FrameTest, AvailabilityFollowsTheActiveWindow) {
   CmFileNew(Frame().Context());
   EXPECT_EQ(available(looked),
             (std::set<int>{kCmNew, kCmOpen, kCmSave, kCmSaveAs, kCmExit, kCmGrayImage, kCmZoomIn,
-                           kCmZoomOut, kCmMakeSirds, kCmTile, 1251}));
+                           kCmZoomOut, kCmMakeSirds, kCmTile, 1251, 1255}));
 }
 
 TEST_F(FrameTest, StatusBarTellsAboutTheActivePicture) {

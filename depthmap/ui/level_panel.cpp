@@ -1,10 +1,12 @@
 #include "depthmap/ui/level_panel.h"
 
+#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "depthmap/level_choice.h"
@@ -74,6 +76,16 @@ LevelPanel::LevelPanel(QWidget* parent)
     map_->BeginLevelChange();
   });
   connect(slider_, &QSlider::sliderReleased, this, &LevelPanel::EndSlide);
+  // So that the frame's inside stays where it is when the texts change.
+  const QFontMetrics metrics(font());
+  int widest = 0;
+  for (const QString& text :
+       {tr("Selected"), tr("Next %1").arg(kHighestLevel), tr("Ground %1").arg(kHighestLevel)}) {
+    widest = std::max(widest, metrics.horizontalAdvance(text));
+  }
+  setMinimumWidth(widest + 2 * kMargin);
+  others_->setMinimumHeight(2 * metrics.lineSpacing());
+  others_->setAlignment(Qt::AlignTop);
   SetMap(nullptr);
 }
 

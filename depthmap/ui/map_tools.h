@@ -20,9 +20,12 @@ constexpr bool IsMapViewCommand(int id) {
   return id == kCmZoomIn || id == kCmZoomOut || id == kCmActualSize || id == kCmZoomToFit ||
          id == kCmMapView;
 }
+constexpr bool IsMapMakingCommand(int id) {
+  return id == kTextTool || id == kCmMapSteps;
+}
 constexpr bool IsMapCommand(int id) {
   return IsMapTool(id) || (id >= kSetLevel && id <= kDeleteObject) ||
-         (id >= kCmUndo && id <= kCmSelectAll) || IsMapViewCommand(id);
+         (id >= kCmUndo && id <= kCmSelectAll) || IsMapViewCommand(id) || IsMapMakingCommand(id);
 }
 // What a drawing tool draws.
 constexpr DepthObjKind KindOfTool(int id) {

@@ -11,12 +11,15 @@
 #include "depthmap/depth_map_file.h"
 #include "depthmap/handles.h"
 #include "depthmap/level_choice.h"
+#include "depthmap/map_size.h"
 #include "depthmap/picking.h"
+#include "depthmap/shape_steps.h"
 #include "depthmap/ui/edit_names.h"
 #include "depthmap/ui/handle_painting.h"
 #include "depthmap/ui/level_dialog.h"
 #include "depthmap/ui/level_keys.h"
 #include "depthmap/ui/map_keys.h"
+#include "depthmap/ui/map_making.h"
 #include "depthmap/ui/map_words.h"
 #include "platform/file_io.h"
 #include "platform/ui/message_box.h"
@@ -67,6 +70,7 @@ void TMapWindow::SetList(std::shared_ptr<TDepthList> list) {
   list_->SetOwner(this);
   list_->KeepHistory();
   rubber_.Stop();
+  knownSize_ = {list_->GetWidth(), list_->GetHeight()};
   InvalidateAll();
   StateMayHaveChanged();
 }
@@ -99,6 +103,24 @@ Result<DepthMapState> TMapWindow::ReadDepthMap(std::span<const std::uint8_t> byt
   SetList(std::make_shared<TDepthList>(std::move(contents->list)));
   ResizeToMap();
   return contents->damaged ? DepthMapState::kDamaged : DepthMapState::kWhole;
+}
+
+Result<DepthMapState> TMapWindow::ReadRecovered(std::span<const std::uint8_t> bytes) {
+  auto state = ReadDepthMap(bytes);
+  if (!state) return state;
+  list_->MarkUnsaved();
+  StateMayHaveChanged();
+  return state;
+}
+
+bool TMapWindow::IsUntouched() const {
+  return File().isEmpty() && !list_->UndoKind() && list_->CountObjects() <= 1;
+}
+
+void TMapWindow::SetMapSize(const QSize& size) {
+  ResizeMap(*list_, size.width(), size.height());
+  StateMayHaveChanged();
+  SendPrivateMessage(Frame(), PrivateMessage(WM_UPDATESTATUS));
 }
 
 Result<void> TMapWindow::WriteDepthMap(const QString& path) {
@@ -177,6 +199,9 @@ bool TMapWindow::HandlesCommand(int command) const {
 bool TMapWindow::CommandEnabled(int command) const {
   if (command == kCmUndo) return list_->UndoKind().has_value();
   if (command == kCmRedo) return list_->RedoKind().has_value();
+  if (command == kCmMapSteps) {
+    return list_->Selected() != nullptr && CanMakeSteps(*list_->Selected());
+  }
   return HandlesCommand(command);
 }
 
@@ -203,6 +228,13 @@ void TMapWindow::RunCommand(int command) {
     case kSetLevel:
       CmSetLevel();
       return;
+    case kTextTool:
+    case kCmMapSteps: {
+      const QPointer<TMapWindow> alive(this);
+      command == kTextTool ? CmText() : AskForSteps(window(), list_);
+      if (!alive) return;
+      break;
+    }
     case kMoveObjectUp:
       list_->CmMoveUp();
       break;
@@ -238,6 +270,16 @@ void TMapWindow::CmSetLevel() {
   if (alive) StateMayHaveChanged();
 }
 
+void TMapWindow::CmText() {
+  const QPointer<TMapWindow> alive(this);
+  const QPoint middle = TrackingPoint(QRect({}, ClientSize().boundedTo(extent_)).center());
+  TextStyle style = textStyle_;
+  const bool put = AskForText(window(), list_, ToDepthPoint(middle), style);
+  if (!alive) return;
+  textStyle_ = style;
+  SetTool(put ? kMoveTool : tool_);
+}
+
 std::int32_t TMapWindow::LevelAtHand() const {
   const TDepthObj* selected = list_->Selected();
   return selected != nullptr ? selected->GetLevel() : list_->CurrentLevel();
@@ -266,6 +308,12 @@ void TMapWindow::EvMDIActivate(bool active) {
 
 void TMapWindow::StateMayHaveChanged() {
   RepaintChanged();
+  if (knownSize_ != std::pair(list_->GetWidth(), list_->GetHeight())) {
+    knownSize_ = {list_->GetWidth(), list_->GetHeight()};
+    UpdateExtent();
+    SetScrollExtent(extent_);
+    InvalidateAll();
+  }
   const bool changed = knownSaved_ != IsSaved() || knownSelected_ != list_->Selected() ||
                        knownUndo_ != list_->UndoKind() || knownRedo_ != list_->RedoKind() ||
                        knownLevels_ != std::pair(LevelAtHand(), list_->CurrentLevel());

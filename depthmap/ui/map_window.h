@@ -14,6 +14,7 @@
 #include "depthmap/rubber_band.h"
 #include "depthmap/ui/level_label_font.h"
 #include "depthmap/ui/map_tools.h"
+#include "depthmap/ui/text_shapes.h"
 #include "documents/ui/mouse_wnd.h"
 #include "platform/result.h"
 
@@ -55,6 +56,10 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   [[nodiscard]] Result<DepthMapState> ReadDepthMap(const QString& path);
   // The same with the contents of a file.
   [[nodiscard]] Result<DepthMapState> ReadDepthMap(std::span<const std::uint8_t> bytes);
+  // The same with what was kept of a map that was not saved: it counts as not saved still.
+  [[nodiscard]] Result<DepthMapState> ReadRecovered(std::span<const std::uint8_t> bytes);
+  // Whether it is a new map in which nothing was done.
+  bool IsUntouched() const;
   // Takes the path's name, also when the file cannot be written; then the map is as saved or
   // unsaved as it was. The user is not told.
   [[nodiscard]] Result<void> WriteDepthMap(const QString& path);
@@ -70,6 +75,8 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   int CurrentTool() const { return tool_; }
   // Numbers that are no tool's are ignored.
   void SetTool(int id);
+  // See ResizeMap().
+  void SetMapSize(const QSize& size);
   const MapLook& Look() const { return look_; }
   // Gives the window's inside the size of the map, one to one, as far as there is room.
   void ResizeToMap();
@@ -130,17 +137,20 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   void AddVertex(QPoint point);
   void FinishPolygon();
   void CmSetLevel();
+  void CmText();
 
   std::shared_ptr<TDepthList> list_;
   std::unique_ptr<LevelLabelFont> labels_;
   std::unique_ptr<MapPicture> picture_;
   RubberBand rubber_;
   MapLook look_;
+  TextStyle textStyle_;
   std::unique_ptr<MapGesture> gesture_;  // of list_
   std::vector<PixelRect> changed_;       // still to be repainted
   QSize extent_;                         // of the map as it is shown
   int tool_ = kSelectTool;
   bool knownSaved_ = false;
+  std::pair<std::int64_t, std::int64_t> knownSize_;
   std::pair<std::int32_t, std::int32_t> knownLevels_;  // at hand, of the next shape
   std::optional<EditKind> knownUndo_;
   std::optional<EditKind> knownRedo_;

@@ -277,7 +277,7 @@ TEST_F(MapWindow, CommandsChangeTheStackAndTellOfIt) {
   for (int command = 1250; command <= 1267; ++command) {
     handled += window->HandlesCommand(command) ? "x" : "-";
   }
-  EXPECT_EQ(handled, "-xxxx-xxxxxxxxxx--");
+  EXPECT_EQ(handled, "-xxxxxxxxxxxxxxx--");
 }
 
 TEST_F(MapWindow, ToolBelongsToTheWindowThatIsActive) {
