@@ -28,6 +28,7 @@ struct DepthOptions {
   TSirdsSettings settings;
   RunOptions run;
   SourceOptions shape;
+  bool fine = false;
 };
 
 // The source in its own geometry: without the displacements that the scan methods need.
@@ -58,36 +59,58 @@ std::pair<int, int> SizeOf(const Source& source, const TSirdsSettings& settings)
   return {settings.w, settings.h};
 }
 
-Result<IndexedImage> DepthPicture(const Source& source, const DepthOptions& options,
-                                  RunMonitor& monitor) {
-  const auto [width, height] = SizeOf(source, options.settings);
-  auto picture = IndexedImage::Create(width, height, Palette::Grays());
+// Fills the rows of a picture with the levels of a source, in parts of a level.
+template <class Picture, class ToPixel>
+Result<Picture> DepthPicture(Result<Picture> picture, const DepthSource& depth,
+                             const RunOptions& run, RunMonitor& monitor, const ToPixel& toPixel) {
   if (!picture) return picture;
-  const auto depth = MakeDepthSource(source, width, height, options.settings);
+  const int width = picture->width();
+  const int height = picture->height();
   const auto makeWorker = [&]() -> RowWorker {
-    auto levels =
-        std::make_shared<std::vector<std::int32_t>>(static_cast<std::size_t>(picture->width()));
+    auto levels = std::make_shared<std::vector<std::int32_t>>(static_cast<std::size_t>(width));
     return [&, levels](int scanLine) {
-      depth->BuildRow(scanLine, *levels);
-      std::transform(levels->begin(), levels->end(), picture->ScanLine(scanLine).begin(),
-                     [parts = depth->LevelParts()](std::int32_t level) {
-                       return static_cast<std::uint8_t>(std::clamp(level / parts, 0, 255));
-                     });
+      depth.BuildRow(scanLine, *levels);
+      std::ranges::transform(*levels, picture->Row(height - 1 - scanLine).begin(), toPixel);
     };
   };
-  const bool finished = RunBands(width, height, options.run.Threads(), makeWorker, monitor);
+  const bool finished = RunBands(width, height, run.Threads(), makeWorker, monitor);
   monitor.OnProgress(ProgressPhase::kEnd, {});
   if (!finished) return Failure(ErrorCode::kCancelled, "The run was stopped.");
   return picture;
 }
 
+Outcome<void> WriteDepth(const Source& source, const DepthOptions& options, RunMonitor& monitor) {
+  const auto [width, height] = SizeOf(source, options.settings);
+  const auto depth = MakeDepthSource(source, width, height, options.settings);
+  const int parts = depth->LevelParts();
+  if (options.fine) {
+    const int steps = FineDepth::kLevelParts / parts;
+    const auto picture = DepthPicture(
+        FineImage::Create(width, height), *depth, options.run, monitor,
+        [steps](std::int32_t level) {
+          const std::int64_t step = std::int64_t{level} * steps;
+          return static_cast<std::uint16_t>(std::clamp<std::int64_t>(step, 0, FineImage::kHighest));
+        });
+    if (!picture) return Failed(options.source, picture.error());
+    return WriteFineOutput(options.out, *picture);
+  }
+  const auto picture =
+      DepthPicture(IndexedImage::Create(width, height, Palette::Grays()), *depth, options.run,
+                   monitor, [parts](std::int32_t level) {
+                     return static_cast<std::uint8_t>(std::clamp(level / parts, 0, 255));
+                   });
+  if (!picture) return Failed(options.source, picture.error());
+  return WriteOutput(options.out, *picture, options.run.Threads());
+}
+
 Outcome<void> Depth(const DepthOptions& options) {
+  if (options.fine) {
+    if (auto checked = CheckFineOutput(options.out); !checked) return checked;
+  }
   TerminalMonitor monitor(options.run.quiet);
   const auto source = OpenSource(options.source, options.shape, options.run.Threads(), monitor);
   if (!source) return tl::unexpected(source.error());
-  const auto picture = DepthPicture(*source, options, monitor);
-  if (!picture) return Failed(options.source, picture.error());
-  return WriteOutput(options.out, *picture, options.run.Threads());
+  return WriteDepth(*source, options, monitor);
 }
 
 }  // namespace
@@ -97,6 +120,7 @@ void AddDepthCommand(CLI::App& program, Task& task) {
   auto options = std::make_shared<DepthOptions>();
   AddOperand(*command, "SOURCE", options->source, SourceHelp());
   AddOutput(*command, options->out, OutputKind::kGray);
+  AddFine(*command, options->fine);
   AddDepthBy(*command, options->settings);
   options->shape.AddTo(*command, options->settings);
   AddRunOptions(*command, options->run);

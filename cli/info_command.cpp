@@ -1,7 +1,9 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <variant>
+#include <vector>
 
 #include "cli/commands.h"
 #include "cli/options.h"
@@ -18,12 +20,22 @@ std::string Lines(const std::string& format, int width, int height) {
          '\n';
 }
 
+std::size_t DifferentLevels(const FineImage& image) {
+  std::vector<bool> occurs(FineImage::kHighest + 1);
+  for (const std::uint16_t level : image.pixels()) occurs[level] = true;
+  return static_cast<std::size_t>(std::ranges::count(occurs, true));
+}
+
 Outcome<void> Tell(const std::string& file) {
   const auto opened = OpenFile(file);
   if (!opened) return tl::unexpected(opened.error());
   if (const auto* map = std::get_if<TDepthList>(&opened->source)) {
     return Print(Lines(opened->format, map->GridWidth(), map->GridHeight()) +
                  "objects: " + std::to_string(map->CountObjects()) + '\n');
+  }
+  if (const auto* fine = std::get_if<FineImage>(&opened->source)) {
+    return Print(Lines(opened->format, fine->width(), fine->height()) +
+                 "levels: " + std::to_string(DifferentLevels(*fine)) + '\n');
   }
   const auto& picture = std::get<IndexedImage>(opened->source);
   std::string lines = Lines(opened->format, picture.width(), picture.height()) +
@@ -44,8 +56,9 @@ void AddInfoCommand(CLI::App& program, Task& task) {
   AddOperand(*command, "FILE", *file, "A picture (" + ReadableNames() + ")\nor a depth map (.rds)");
   command->footer(
       "Prints lines such as \"format: GIF\", \"size: 640x480\" and \"colours: 256\" (the colours\n"
-      "of its palette); of a depth map \"format: RDS\", its size and \"objects: 7\". Of a\n"
-      "stereogram that has its recipe the source, the pattern and the options that made it.\n\n"
+      "of its palette); of a depth picture of fine levels \"levels: 1000\", those that occur; of\n"
+      "a depth map \"format: RDS\", its size and \"objects: 7\". Of a stereogram that has its\n"
+      "recipe the source, the pattern and the options that made it.\n\n"
       "Example: sirds info scene.png");
   command->callback([&task, file] { task = [file] { return Tell(*file); }; });
 }

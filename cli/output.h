@@ -4,6 +4,7 @@
 #include <string>
 
 #include "cli/outcome.h"
+#include "platform/fine_image.h"
 #include "platform/indexed_image.h"
 
 namespace CLI {
@@ -26,5 +27,12 @@ void AddOutput(CLI::App& command, std::string& out, OutputKind kind);
 // (codec/picture_comment.h).
 [[nodiscard]] Outcome<void> WriteOutput(const std::string& out, const IndexedImage& picture,
                                         int threads, const std::string& comment = {});
+
+// --fine: grays of 16 bits.
+void AddFine(CLI::App& command, bool& fine);
+// Wrong usage when OUT is in no format of 16 bits.
+[[nodiscard]] Outcome<void> CheckFineOutput(const std::string& out);
+// As WriteOutput(), with 16 bits a pixel.
+[[nodiscard]] Outcome<void> WriteFineOutput(const std::string& out, const FineImage& picture);
 
 }  // namespace plenovia

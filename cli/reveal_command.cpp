@@ -1,6 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <memory>
@@ -15,6 +16,8 @@
 #include "cli/source.h"
 #include "cli/terminal_monitor.h"
 #include "codec/picture_format.h"
+#include "engine/depth_source.h"
+#include "engine/fine_reveal.h"
 #include "engine/reveal.h"
 #include "engine/separation.h"
 
@@ -30,6 +33,7 @@ struct RevealCommandOptions {
   TSirdsSettings settings;
   ScanOptions scan;
   RunOptions run;
+  bool fine = false;
   bool Levels() const { return FirstGiven(scan.All()) != nullptr; }
 };
 
@@ -46,21 +50,36 @@ Grays LevelGrays(const RevealedDepth& depth, const TSirdsSettings& settings) {
   return grays;
 }
 
-// The separations that occur stretched over all grays, the smallest, which is the nearest, to
-// white. `counts` has the number of pixels of each; a hundredth may lie beyond either end.
-Grays StretchedGrays(const RevealedDepth& depth, const std::vector<std::size_t>& counts) {
+// The separations between which nearly all lie: a hundredth may lie beyond either end. `counts` has
+// the number of pixels of each.
+struct Extent {
+  int low = 0;
+  int high = 0;
+  int Range() const { return std::max(1, high - low); }
+  // How near a separation is, from 0 to 1.
+  double Nearness(double separation) const {
+    return std::clamp((high - separation) / Range(), 0.0, 1.0);
+  }
+};
+
+Extent ExtentOf(const RevealedDepth& depth, const std::vector<std::size_t>& counts) {
   const auto spare = std::accumulate(counts.begin(), counts.end(), std::size_t{0}) / 100;
-  int low = depth.smallest;
-  int high = depth.largest;
+  Extent extent{depth.smallest, depth.largest};
   std::size_t below = 0;
   std::size_t above = 0;
-  while (low < high && (below += counts[static_cast<std::size_t>(low)]) <= spare) ++low;
-  while (high > low && (above += counts[static_cast<std::size_t>(high)]) <= spare) --high;
-  Grays grays(counts.size());
-  const int range = std::max(1, high - low);
+  const auto count = [&](int separation) { return counts[static_cast<std::size_t>(separation)]; };
+  while (extent.low < extent.high && (below += count(extent.low)) <= spare) ++extent.low;
+  while (extent.high > extent.low && (above += count(extent.high)) <= spare) --extent.high;
+  return extent;
+}
+
+// The separations that occur stretched over all grays, the smallest, which is the nearest, to
+// white.
+Grays StretchedGrays(const RevealedDepth& depth, const Extent& extent) {
+  Grays grays(static_cast<std::size_t>(depth.largest) + 1);
   for (int s = 1; s <= depth.largest; ++s) {
     grays[static_cast<std::size_t>(s)] =
-        static_cast<std::uint8_t>(std::clamp((high - s) * 255 / range, 0, 255));
+        static_cast<std::uint8_t>(std::clamp((extent.high - s) * 255 / extent.Range(), 0, 255));
   }
   return grays;
 }
@@ -80,27 +99,21 @@ Columns ColumnsInside(const RevealedDepth& depth, RevealAnchor anchor) {
   return {static_cast<std::size_t>(begin), static_cast<std::size_t>(end)};
 }
 
-// What the user sees and is told of a search.
-struct Finding {
-  IndexedImage picture;  // black in the margins
-  double certain = 0;    // share of the pixels inside
-};
-
-// Draws over the stereogram, as a large picture takes time and memory.
-Finding Draw(const RevealedDepth& depth, const RevealCommandOptions& options, const Columns& inside,
-             IndexedImage picture) {
-  const auto forEachInside = [&](const auto& visit) {
-    const auto width = static_cast<std::size_t>(depth.width);
-    for (std::size_t row = 0; row < depth.separation.size(); row += width) {
-      for (std::size_t x = inside.begin; x < inside.end; ++x) visit(row + x);
-    }
-  };
+// How many pixels inside have each separation, of those that are certain.
+std::vector<std::size_t> CertainCounts(const RevealedDepth& depth, const Columns& inside) {
   std::vector<std::size_t> counts(static_cast<std::size_t>(depth.largest) + 1);
-  forEachInside([&](std::size_t at) {
-    if (depth.certainty[at] >= kCertain) ++counts[depth.separation[at]];
-  });
-  const Grays grays =
-      options.Levels() ? LevelGrays(depth, options.settings) : StretchedGrays(depth, counts);
+  const auto width = static_cast<std::size_t>(depth.width);
+  for (std::size_t row = 0; row < depth.separation.size(); row += width) {
+    for (std::size_t at = row + inside.begin; at < row + inside.end; ++at) {
+      if (depth.certainty[at] >= kCertain) ++counts[depth.separation[at]];
+    }
+  }
+  return counts;
+}
+
+// Black in the margins. Draws over the stereogram, as a large picture takes time and memory.
+IndexedImage Draw(const RevealedDepth& depth, const Grays& grays, const Columns& inside,
+                  IndexedImage picture) {
   picture.SetPalette(Palette::Grays());
   for (int y = 0; y < depth.height; ++y) {
     const auto row = picture.Row(y);
@@ -109,9 +122,29 @@ Finding Draw(const RevealedDepth& depth, const RevealCommandOptions& options, co
     for (std::size_t x = inside.begin; x < inside.end; ++x) row[x] = grays[found[x]];
     std::ranges::fill(row.subspan(inside.end), std::uint8_t{0});
   }
-  const auto certain = std::accumulate(counts.begin(), counts.end(), std::size_t{0});
-  const auto pixels = (inside.end - inside.begin) * static_cast<std::size_t>(depth.height);
-  return Finding{std::move(picture), static_cast<double>(certain) / static_cast<double>(pixels)};
+  return picture;
+}
+
+// The same with 16 bits, of separations to parts of a pixel.
+Result<FineImage> DrawFine(const RevealedDepth& depth, const PixelVector<float>& separations,
+                           const RevealCommandOptions& options, const Extent& extent,
+                           const Columns& inside) {
+  auto picture = FineImage::Create(depth.width, depth.height);
+  if (!picture) return picture;
+  const auto gray = [&](float separation) {
+    if (!options.Levels()) return extent.Nearness(separation) * FineImage::kHighest;
+    return FineDepth::kLevelParts *
+           FineLevelFromSeparation(separation, options.settings, SourceKind::kImage, depth.width);
+  };
+  for (int y = 0; y < depth.height; ++y) {
+    const auto row = picture->Row(y);
+    const float* found = separations.data() + row.size() * static_cast<std::size_t>(y);
+    std::ranges::fill(row, std::uint16_t{0});
+    for (std::size_t x = inside.begin; x < inside.end; ++x) {
+      if (found[x] > 0) row[x] = static_cast<std::uint16_t>(std::lround(gray(found[x])));
+    }
+  }
+  return picture;
 }
 
 std::string CertainLine(double share) {
@@ -122,6 +155,9 @@ std::string CertainLine(double share) {
 
 Outcome<void> RevealDepth(const RevealCommandOptions& options) {
   if (auto range = CheckDepthRange(options.settings); !range) return range;
+  if (options.fine) {
+    if (auto checked = CheckFineOutput(options.out); !checked) return checked;
+  }
   auto picture = ReadPicture(options.picture, options.run.Threads());
   if (!picture) return tl::unexpected(picture.error());
   TerminalMonitor monitor(options.run.quiet);
@@ -130,10 +166,27 @@ Outcome<void> RevealDepth(const RevealCommandOptions& options) {
   search.threads = options.run.Threads();
   const auto depth = Reveal(*picture, search, monitor);
   if (!depth) return Failed(options.picture, depth.error());
-  const Finding finding =
-      Draw(*depth, options, ColumnsInside(*depth, search.anchor), std::move(*picture));
-  return WriteOutput(options.out, finding.picture, options.run.Threads()).and_then([&] {
-    return Print(CertainLine(finding.certain));
+  const Columns inside = ColumnsInside(*depth, search.anchor);
+  const auto counts = CertainCounts(*depth, inside);
+  const Extent extent = ExtentOf(*depth, counts);
+  const auto pixels = (inside.end - inside.begin) * static_cast<std::size_t>(depth->height);
+  const auto certain = std::accumulate(counts.begin(), counts.end(), std::size_t{0});
+  const auto written = [&]() -> Outcome<void> {
+    if (!options.fine) {
+      const Grays grays =
+          options.Levels() ? LevelGrays(*depth, options.settings) : StretchedGrays(*depth, extent);
+      return WriteOutput(options.out, Draw(*depth, grays, inside, std::move(*picture)),
+                         options.run.Threads());
+    }
+    const auto fine = FineSeparations(*picture, *depth, search.anchor, search.threads, monitor);
+    monitor.OnProgress(ProgressPhase::kEnd, {});
+    if (!fine) return Failed(options.picture, fine.error());
+    const auto drawn = DrawFine(*depth, *fine, options, extent, inside);
+    if (!drawn) return Failed(options.out, drawn.error());
+    return WriteFineOutput(options.out, *drawn);
+  }();
+  return written.and_then([&] {
+    return Print(CertainLine(static_cast<double>(certain) / static_cast<double>(pixels)));
   });
 }
 
@@ -145,6 +198,7 @@ void AddRevealCommand(CLI::App& program, Task& task) {
   auto options = std::make_shared<RevealCommandOptions>();
   AddOperand(*command, "PICTURE", options->picture, "A stereogram (" + ReadableNames() + ")");
   AddOutput(*command, options->out, OutputKind::kGray);
+  AddFine(*command, options->fine);
   options->scan = AddScanOptions(*command, options->settings);
   AddRunOptions(*command, options->run);
   command->footer(
@@ -153,7 +207,7 @@ void AddRevealCommand(CLI::App& program, Task& task) {
       "--gap, --zmin or --zmax its grays are the levels of the picture that the stereogram was\n"
       "made of with these parameters, the others being at their defaults. Margins in which the\n"
       "pattern does not repeat yet have no depth: they are black and do not count. Repeats of\n"
-      "up to 1024 pixels are found.\n\n"
+      "up to 1024 pixels are found. With --fine separations are found to parts of a pixel.\n\n"
       "Example: sirds reveal scene-3d.png -o found.png");
   command->callback([&task, options] { task = [options] { return RevealDepth(*options); }; });
 }

@@ -9,7 +9,10 @@
 #include "codec/graph_io.h"
 #include "depthmap/depth_map_file.h"
 #include "platform/file_io.h"
+#include "sources/fine_picture.h"
 #include "sources/formula.h"
+#include "sources/heights.h"
+#include "sources/resample.h"
 
 namespace plenovia {
 
@@ -44,6 +47,11 @@ Outcome<Source> OpenFormula(const std::string& text, const SourceOptions& option
   return Source(std::move(*image));
 }
 
+SourceForm FormOf(const Source& file) {
+  if (std::holds_alternative<TDepthList>(file)) return SourceForm::kMap;
+  return std::holds_alternative<FineImage>(file) ? SourceForm::kFinePicture : SourceForm::kPicture;
+}
+
 // The forms of source that are no files.
 struct SourceOpener {
   std::string_view prefix;
@@ -68,8 +76,8 @@ const SourceOpener* OpenerOf(const std::string& text) {
 
 std::string SourceHelp() {
   return "A picture (" + ReadableNames() +
-         "), a depth map\n(.rds), figure:NUMBER, figure:TITLE or formula:Z, such\n"
-         "as \"formula:cos(x)*cos(y)\"";
+         "), a depth\npicture of fine levels (PNG or PGM of 16 bits, PFM),\na depth map (.rds), "
+         "figure:NUMBER, figure:TITLE or\nformula:Z, such as \"formula:cos(x)*cos(y)\"";
 }
 
 Outcome<Source> OpenSource(const std::string& text, const SourceOptions& options, int threads,
@@ -80,22 +88,35 @@ Outcome<Source> OpenSource(const std::string& text, const SourceOptions& options
     }
     return opener->open(text.substr(opener->prefix.size()), options, threads, monitor);
   }
-  auto opened = OpenFile(text, threads);
+  auto opened = OpenFile(text, threads, options.nearness());
   if (!opened) return tl::unexpected(opened.error());
-  const bool isMap = std::holds_alternative<TDepthList>(opened->source);
-  if (auto checked = options.Check(isMap ? SourceForm::kMap : SourceForm::kPicture); !checked) {
+  if (auto checked = options.Check(FormOf(opened->source)); !checked) {
     return tl::unexpected(checked.error());
+  }
+  if (auto* fine = std::get_if<FineImage>(&opened->source)) {
+    StretchLevels(*fine);
+    const auto [width, height] = options.SizeOf(fine->width(), fine->height());
+    if (width == fine->width() && height == fine->height()) return std::move(opened->source);
+    auto resampled = ResampleLevels(*fine, width, height);
+    if (!resampled) return Failed(text, resampled.error());
+    return Source(std::move(*resampled));
   }
   return std::move(opened->source);
 }
 
-Outcome<OpenedFile> OpenFile(const std::string& file, int threads) {
+Outcome<OpenedFile> OpenFile(const std::string& file, int threads, Nearness nearness) {
   const auto bytes = ReadFile(file);
   if (!bytes) return Failed(file, bytes.error());
   if (LooksLikeDepthMap(*bytes)) {
     auto map = DecodeMap(file, *bytes);
     if (!map) return tl::unexpected(map.error());
     return OpenedFile{std::move(*map), "RDS", {}};
+  }
+  if (const auto format = FinePictureFormat(*bytes); !format.empty()) {
+    auto decoded = DecodeFinePicture(*bytes, nearness);
+    if (!decoded) return Failed(file, decoded.error());
+    if (!decoded->damage.empty()) Warn(file, decoded->damage);
+    return OpenedFile{std::move(decoded->image), std::string(format), {}};
   }
   auto picture = Decode(file, *bytes, threads);
   if (!picture) return tl::unexpected(picture.error());

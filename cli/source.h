@@ -27,14 +27,16 @@ using Source = std::variant<IndexedImage, TDepthList, Figure, FineImage>;
 // The words of help for a SOURCE.
 std::string SourceHelp();
 
-// A picture or a depth map, whichever the content of the file is. Of a damaged file what can be
-// read, with a warning; `threads` may work on it, or one a processor when that is 0.
+// A picture, a picture of fine levels or a depth map, whichever the content of the file is. Of a
+// damaged file what can be read, with a warning; `threads` may work on it, or one a processor when
+// that is 0.
 struct OpenedFile {
   Source source;
   std::string format;   // such as "GIF"; "RDS" for a depth map
   std::string comment;  // the program's own (codec/picture_comment.h)
 };
-[[nodiscard]] Outcome<OpenedFile> OpenFile(const std::string& file, int threads = 0);
+[[nodiscard]] Outcome<OpenedFile> OpenFile(const std::string& file, int threads = 0,
+                                           Nearness nearness = Nearness::kBright);
 
 // Whatever a SOURCE names: something that begins with the name of a form and a colon, or a file. A
 // file of such a name is reached as "./figure:...". Wrong usage when the command line has an option

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cmath>
 #include <sstream>
 #include <utility>
 
@@ -17,6 +18,8 @@ const char* NameOf(SourceForm form) {
   switch (form) {
     case SourceForm::kPicture:
       return "pictures";
+    case SourceForm::kFinePicture:
+      return "fine depth pictures";
     case SourceForm::kMap:
       return "depth maps";
     case SourceForm::kFigure:
@@ -43,7 +46,7 @@ void SourceOptions::AddTo(CLI::App& command, TSirdsSettings& settings) {
   settings_ = &settings;
   sizes_ = {AddNumber(command, "--width", settings.w, 1, kFarthest, "Width of the picture"),
             AddNumber(command, "--height", settings.h, 1, kFarthest, "Height of the picture")};
-  for (CLI::Option* size : sizes_) Limit(size, {kFigure, kFormula}, Kind::kOther);
+  for (CLI::Option* size : sizes_) Limit(size, {kFigure, kFormula, kFinePicture}, Kind::kOther);
   Limit(AddNumber(command, "--dx", settings.dx, -kFarthest, kFarthest, "Pixels to the right"),
         {kFigure}, Kind::kOther);
   Limit(AddNumber(command, "--dy", settings.dy, -kFarthest, kFarthest, "Pixels up"), {kFigure},
@@ -53,6 +56,11 @@ void SourceOptions::AddTo(CLI::App& command, TSirdsSettings& settings) {
   Limit(AddReal(command, "--reach", reach_, kSmallestReach, kLargestReach,
                 "x and y go from -N to N along the shorter side"),
         {kFormula});
+  Limit(AddChoice(command, "--near", nearness_,
+                  {{"bright", static_cast<std::int32_t>(Nearness::kBright)},
+                   {"dark", static_cast<std::int32_t>(Nearness::kDark)}},
+                  "What is near"),
+        {kFinePicture});
 }
 
 void SourceOptions::Limit(CLI::Option* option, std::vector<SourceForm> forms, Kind kind) {
@@ -96,6 +104,18 @@ bool SourceOptions::TakeShape(const std::string& shape) const {
     }
   }
   return true;
+}
+
+std::pair<int, int> SourceOptions::SizeOf(int width, int height) const {
+  const bool wide = sizes_[0]->count() != 0;
+  const bool high = sizes_[1]->count() != 0;
+  const auto inShape = [](int side, int other, int given) {
+    const double length = static_cast<double>(other) / side * given;
+    return static_cast<int>(std::lround(std::clamp(length, 1.0, double{kFarthest})));
+  };
+  if (wide) return {settings_->w, high ? settings_->h : inShape(width, height, settings_->w)};
+  if (high) return {inShape(height, width, settings_->h), settings_->h};
+  return {width, height};
 }
 
 const CLI::Option* SourceOptions::GivenSize() const {

@@ -1,11 +1,14 @@
 // Options that are for some forms of SOURCE only.
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "cli/outcome.h"
 #include "engine/sirds_settings.h"
+#include "sources/fine_picture.h"
 #include "sources/formula.h"
 
 namespace CLI {
@@ -15,7 +18,7 @@ class Option;
 
 namespace plenovia {
 
-enum class SourceForm { kPicture, kMap, kFigure, kFormula };
+enum class SourceForm { kPicture, kFinePicture, kMap, kFigure, kFormula };
 
 class SourceOptions {
  public:
@@ -39,6 +42,9 @@ class SourceOptions {
 
   int width() const { return settings_->w; }
   int height() const { return settings_->h; }
+  // The size that a picture of this size is to get: the one given, in its shape when one side is.
+  std::pair<int, int> SizeOf(int width, int height) const;
+  Nearness nearness() const { return static_cast<Nearness>(nearness_); }
   Formula FormulaOf(const std::string& text) const { return {text, reach_}; }
 
  private:
@@ -50,6 +56,7 @@ class SourceOptions {
   std::vector<Limited> limited_;
   std::vector<CLI::Option*> sizes_;
   const TSirdsSettings* settings_ = nullptr;
+  std::int32_t nearness_ = static_cast<std::int32_t>(Nearness::kBright);
   double reach_ = Formula().reach;
 };
 

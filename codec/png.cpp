@@ -5,12 +5,11 @@
 #include <utility>
 #include <vector>
 
-#include "codec/byte_stream.h"
 #include "codec/colour_reducer.h"
 #include "codec/composite_over_white.h"
 #include "codec/picture_comment.h"
-#include "codec/png_errors.h"
 #include "codec/png_reader.h"
+#include "codec/png_writer.h"
 
 namespace plenovia {
 
@@ -137,24 +136,8 @@ Result<EncodedPicture> EncodePng(const IndexedImage& picture, std::string_view c
     palette.push_back({c.red, c.green, c.blue});
   }
   std::string text(comment);
-  PngErrors errors;
-  ByteBuffer bytes;
-  png_structp png =
-      png_create_write_struct(PNG_LIBPNG_VER_STRING, &errors, PngErrors::Fail, PngErrors::Note);
-  png_infop info = png == nullptr ? nullptr : png_create_info_struct(png);
-  const bool written = info != nullptr && errors.Guarded([&] {
-    const auto append = [](png_structp file, png_bytep data, std::size_t count) {
-      auto& to = *static_cast<ByteBuffer*>(png_get_io_ptr(file));
-      if (!AppendBytes(to, {data, count})) png_error(file, "no memory");
-    };
-    png_set_write_fn(png, &bytes, append, nullptr);
-    Write(png, info, picture, palette, text);
-  });
-  png_destroy_write_struct(&png, &info);
-  if (!written) {
-    return Failure(ErrorCode::kTooLarge, "There is not enough memory to write the PNG file.");
-  }
-  return EncodedPicture(std::move(bytes));
+  return WritePng(
+      [&](png_structp png, png_infop info) { Write(png, info, picture, palette, text); });
 }
 
 std::string_view PngLibrary() {

@@ -13,8 +13,8 @@ constexpr std::uint64_t kMostRawBytesPerByte = 16;
 
 }  // namespace
 
-PngReader::PngReader(std::span<const std::uint8_t> bytes)
-    : source_(bytes), fileSize_(bytes.size()) {}
+PngReader::PngReader(std::span<const std::uint8_t> bytes, Samples samples)
+    : source_(bytes), fileSize_(bytes.size()), samples_(samples) {}
 
 PngReader::~PngReader() {
   png_destroy_read_struct(&png_, &info_, nullptr);
@@ -44,8 +44,14 @@ void PngReader::ReadHeader() {
   png_read_info(png_, info_);
 }
 
-// Asks the library for 8 bits a channel and no transparent colours besides alpha.
+// Asks the library for 8 bits a channel and no transparent colours besides alpha, or for fine grays
+// alone.
 void PngReader::Prepare() {
+  if (samples_ == Samples::kFineGrays) {
+    png_set_strip_alpha(png_);
+    png_read_update_info(png_, info_);
+    return;
+  }
   const int type = png_get_color_type(png_, info_);
   png_set_packing(png_);
   if (type == PNG_COLOR_TYPE_GRAY) png_set_expand_gray_1_2_4_to_8(png_);

@@ -23,11 +23,14 @@ struct PngRowPlace {
   int step = 1;
 };
 
-// One pass over a file. Rows come with 8 bits a channel: indexes, gray, gray and alpha, colours,
-// or colours and alpha.
+// One pass over a file.
 class PngReader {
  public:
-  explicit PngReader(std::span<const std::uint8_t> bytes);
+  // What rows consist of: 8 bits a channel, which are indexes, gray, gray and alpha, colours, or
+  // colours and alpha; or, for gray files of 16 bits only, these, the high byte first.
+  enum class Samples { kBytes, kFineGrays };
+
+  explicit PngReader(std::span<const std::uint8_t> bytes, Samples samples = Samples::kBytes);
   PngReader(const PngReader&) = delete;
   PngReader& operator=(const PngReader&) = delete;
   ~PngReader();
@@ -53,7 +56,8 @@ class PngReader {
       const int columns = interlaced_ ? PNG_PASS_COLS(width_, pass) : width_;
       const int rows = interlaced_ ? PNG_PASS_ROWS(height_, pass) : height_;
       const auto bytes = std::span<const std::uint8_t>(row_).first(
-          static_cast<std::size_t>(columns) * static_cast<std::size_t>(channels_));
+          static_cast<std::size_t>(columns) * static_cast<std::size_t>(channels_) *
+          (samples_ == Samples::kBytes ? 1 : 2));
       for (int y = 0; columns > 0 && y < rows; ++y) {
         if (!errors_.Guarded([&] { png_read_row(png_, row_.data(), nullptr); })) {
           broken_ = true;
@@ -77,6 +81,7 @@ class PngReader {
 
   ByteReader source_;
   std::size_t fileSize_;
+  Samples samples_;
   PngErrors errors_;
   png_structp png_ = nullptr;
   png_infop info_ = nullptr;

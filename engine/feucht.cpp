@@ -98,6 +98,16 @@ struct Feucht {
     const std::int64_t reach = 5 * std::int64_t{setup.width} / 20;
     return depth == pole ? 0 : (vanishing - depth) * reach / (pole - depth);
   }
+  static double Level(double separation, const ScanSetup& setup) {
+    const auto range = static_cast<double>(setup.range);
+    const auto zmin = static_cast<double>(setup.zmin);
+    const double middle = separation + 0.5;
+    const double reach = 5.0 * setup.width / 20;
+    const double toPole = reach - middle;
+    if (toPole == 0) return 0;
+    const double depth = ((2 * range + zmin) * reach - middle * (4 * range + zmin)) / toPole;
+    return depth / static_cast<double>(Factor(setup));
+  }
   // Up to 3/8 of the farthest separation, which is where the nearest levels of the figures lie in
   // the default range.
   static bool Shows(LevelRange levels, const ScanSetup& setup) {
@@ -128,6 +138,7 @@ const ScanMethod kFeuchtMethod = {
     .tilesFromMiddle = true,
     .anchor = RevealAnchor::kCentre,
     .separation = Feucht::Separation,
+    .level = Feucht::Level,
     .shows = Feucht::Shows,
     .fit = Feucht::Fit,
     .prepare = MakePassShift<Feucht>,

@@ -38,6 +38,10 @@ struct LeftToRight {
   static std::int64_t Separation(std::int64_t level, const ScanSetup& setup) {
     return setup.gap - level * Factor(setup) / setup.Divisor();
   }
+  static double Level(double separation, const ScanSetup& setup) {
+    return (setup.gap - separation + 0.5) * static_cast<double>(setup.Divisor()) /
+           static_cast<double>(Factor(setup));
+  }
   // Up to half the gap, as far as the other methods go.
   static bool Shows(LevelRange levels, const ScanSetup& setup) {
     return levels.lowest >= 0 && setup.Divisor() > 0 &&
@@ -65,6 +69,7 @@ const ScanMethod kLeftToRightMethod = {
     .tilesFromMiddle = false,
     .anchor = RevealAnchor::kRight,
     .separation = LeftToRight::Separation,
+    .level = LeftToRight::Level,
     .shows = LeftToRight::Shows,
     .fit = LeftToRight::Fit,
     .prepare = MakePassShift<LeftToRight>,

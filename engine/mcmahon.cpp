@@ -80,6 +80,11 @@ struct McMahon {
   static std::int64_t Separation(std::int64_t level, const ScanSetup& setup) {
     return setup.gap - (level - setup.zmin) * (setup.gap / 2) / setup.Divisor();
   }
+  static double Level(double separation, const ScanSetup& setup) {
+    const int half = std::max(1, setup.gap / 2);
+    return static_cast<double>(setup.zmin) +
+           (setup.gap - separation + 0.5) * static_cast<double>(setup.Divisor()) / half;
+  }
   static bool Shows(LevelRange levels, const ScanSetup& setup) {
     return levels.lowest >= setup.zmin && levels.highest <= setup.zmin + setup.Divisor();
   }
@@ -106,6 +111,7 @@ const ScanMethod kMcMahonMethod = {
     .tilesFromMiddle = true,
     .anchor = RevealAnchor::kRight,
     .separation = McMahon::Separation,
+    .level = McMahon::Level,
     .shows = McMahon::Shows,
     .fit = McMahon::Fit,
     .prepare = MakePassShift<McMahon>,

@@ -24,6 +24,7 @@ constexpr ScanMethod kNoMethod = {
     .tilesFromMiddle = true,
     .anchor = RevealAnchor::kRight,
     .separation = [](std::int64_t, const ScanSetup&) { return std::int64_t{0}; },
+    .level = [](double, const ScanSetup&) { return 0.0; },
     .shows = [](LevelRange, const ScanSetup&) { return true; },
     .fit = [](LevelRange levels, const ScanSetup&) { return levels; },
     .prepare = [](const ScanSetup&) -> std::unique_ptr<const PreparedShift> {

@@ -59,6 +59,9 @@ struct ScanMethod {
   // The distance in pixels of the pair that it makes for a column of this level. May be 0 or
   // negative, where the method makes no pair that the eye could use.
   std::int64_t (*separation)(std::int64_t level, const ScanSetup& setup);
+  // The level, a real number, that makes a pair of this distance: of the levels that a method of
+  // whole pixels brings to one distance the middle.
+  double (*level)(double separation, const ScanSetup& setup);
   // Whether it shows all of these levels: no pair closer than the eye can use, none farther apart
   // than the background's.
   bool (*shows)(LevelRange levels, const ScanSetup& setup);

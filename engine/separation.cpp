@@ -1,5 +1,7 @@
 #include "engine/separation.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <limits>
 
@@ -30,6 +32,14 @@ int LevelFromSeparation(int separation, const TSirdsSettings& settings, SourceKi
     previous = candidate;
   }
   return (first + last) / 2;
+}
+
+double FineLevelFromSeparation(double separation, const TSirdsSettings& settings, SourceKind kind,
+                               int width) {
+  const ScanMethod& method = ScanMethodOf(settings.scanMethod);
+  const double level =
+      method.level(separation, ScanSetup(width, settings.gapValue, kind, settings));
+  return std::isfinite(level) ? std::clamp(level, 0.0, 255.0) : 0;
 }
 
 }  // namespace plenovia

@@ -19,4 +19,9 @@ std::int64_t SeparationFromLevel(std::int32_t level, const TSirdsSettings& setti
 // neighbouring levels share that separation.
 int LevelFromSeparation(int separation, const TSirdsSettings& settings, SourceKind kind, int width);
 
+// The same to parts of a level, 0..255, for a separation with parts of a pixel; 0 for a scan method
+// that does not exist.
+double FineLevelFromSeparation(double separation, const TSirdsSettings& settings, SourceKind kind,
+                               int width);
+
 }  // namespace plenovia

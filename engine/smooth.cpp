@@ -40,6 +40,9 @@ class Separations {
         range_(static_cast<double>(setup.Divisor())) {}
 
   double Exact(double level) const { return gap_ - (level - zmin_) / range_ * gap_ / 2; }
+  double Level(double separation) const {
+    return gap_ > 0 ? zmin_ + (gap_ - separation) * 2 / gap_ * range_ : zmin_;
+  }
   std::int32_t Fixed(double level) const {
     constexpr double kFarthest = 1 << 15;
     const double separation = std::clamp(Exact(level), 0.0, kFarthest);
@@ -251,6 +254,8 @@ const ScanMethod kSmoothMethod = {
           return static_cast<std::int64_t>(
               std::llround(Separations(setup).Exact(static_cast<double>(level))));
         },
+    .level = [](double separation,
+                const ScanSetup& setup) { return Separations(setup).Level(separation); },
     .shows = [](LevelRange levels,
                 const ScanSetup& setup) { return kMcMahonMethod.shows(levels, setup); },
     .fit = [](LevelRange levels,

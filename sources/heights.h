@@ -1,6 +1,10 @@
 // Heights of any unit as levels.
 #pragma once
 
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
 #include <span>
 
 #include "platform/fine_image.h"
@@ -8,9 +12,33 @@
 
 namespace plenovia {
 
-// Rows top down, width * height heights. The lowest finite height becomes level 0, which is far,
-// and the highest level 65535; where all are equal, 0. Infinite heights count as the nearest of
-// these. What is no number has no depth: it gets level 0. Fails as FineImage::Create() does, and
+// Takes heights in first, then gives the levels: the lowest finite height becomes level 0, which is
+// far, and the highest level 65535; where all are equal, 0. Infinite heights count as the nearest
+// of these. What is no number has no depth: it gets level 0.
+class HeightScale {
+ public:
+  void Include(float z) {
+    if (!std::isfinite(z)) return;
+    lowest_ = std::min<double>(lowest_, z);
+    highest_ = std::max<double>(highest_, z);
+  }
+  // No height was finite.
+  bool empty() const { return lowest_ > highest_; }
+  // All heights are in.
+  void Fix() { scale_ = lowest_ < highest_ ? FineImage::kHighest / (highest_ - lowest_) : 0; }
+  std::uint16_t LevelOf(float z) const {
+    if (std::isnan(z)) return 0;
+    return static_cast<std::uint16_t>(
+        (std::clamp<double>(z, lowest_, highest_) - lowest_) * scale_ + 0.5);
+  }
+
+ private:
+  double lowest_ = std::numeric_limits<double>::infinity();
+  double highest_ = -std::numeric_limits<double>::infinity();
+  double scale_ = 0;
+};
+
+// Rows top down, width * height heights, to their levels. Fails as FineImage::Create() does, and
 // with kInvalid when no height is finite.
 [[nodiscard]] Result<FineImage> LevelsFromHeights(int width, int height,
                                                   std::span<const float> heights);

@@ -82,6 +82,8 @@ const Wrong kUsage[] = {
      {"depth", "figure:1", "-o", "@/o.png", "--reach", "5"},
      2,
      {"--reach", "formulas"}},
+    {"FineJpeg", {"depth", "figure:1", "-o", "@/o.jpg", "--fine"}, 2, {"--fine", ".png"}},
+    {"NearOfPicture", {"depth", "@/scene.bmp", "-o", "@/o.png", "--near", "dark"}, 2, {"--near"}},
     {"NoFormula", {"make", "formula:", "-o", "@/o.png"}, 2, {"formula: "}},
     {"WrongFormula", {"depth", "formula:sin(x", "-o", "@/o.png"}, 2, {"parenthesis"}},
     {"TwoSizes",

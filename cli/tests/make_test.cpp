@@ -1,4 +1,6 @@
 // `sirds make` writes exactly what the engine makes of the same source and parameters.
+#include <cmath>
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <ostream>
@@ -128,6 +130,37 @@ TEST_F(SirdsTest, FitsFineLevelsUnlessARangeIsGiven) {
   const IndexedImage fitted = make({});
   EXPECT_TRUE(SamePixels(fitted, make({"--zmin", "0", "--zmax", "383"})));
   EXPECT_FALSE(SamePixels(fitted, make({"--zmax", "300"})));
+}
+
+TEST_F(SirdsTest, FineLevelsGoFromFileToFileAndThroughAStereogram) {
+  const auto run = [](const std::vector<std::string>& words) {
+    const Finished finished = Sirds(words);
+    EXPECT_EQ(finished.status, 0) << finished.err;
+    return finished.out;
+  };
+  run({"depth", "formula:x", "-o", Path("a.png"), "--fine", "--width", "500", "--height", "60"});
+  run({"depth", Path("a.png"), "-o", Path("b.pgm"), "--fine"});
+  run({"depth", Path("b.pgm"), "-o", Path("c.png"), "--fine"});
+  EXPECT_EQ(run({"info", Path("a.png")}), "format: PNG\nsize: 500x60\nlevels: 500\n");
+  EXPECT_EQ(run({"info", Path("b.pgm")}), "format: PGM\nsize: 500x60\nlevels: 500\n");
+  EXPECT_EQ(Contents("c.png"), Contents("a.png"));
+  run({"depth", Path("b.pgm"), "-o", Path("half.pgm"), "--fine", "--height", "30"});
+  EXPECT_EQ(run({"info", Path("half.pgm")}), "format: PGM\nsize: 250x30\nlevels: 250\n");
+
+  run({"make", Path("a.png"), "-o", out_, "--scan", "smooth", "--no-markers"});
+  run({"reveal", out_, "-o", Path("found.pgm"), "--fine", "--scan", "smooth", "--zmax", "383"});
+  const std::string made = Contents("b.pgm");
+  const std::string found = Contents("found.pgm");
+  ASSERT_EQ(found.size(), made.size());
+  const auto level = [](const std::string& file, std::size_t x, std::size_t y) {
+    const std::size_t at = file.size() - 2 * ((59 - y) * 500 + 500 - x);
+    return static_cast<std::uint8_t>(file[at]) * 256 + static_cast<std::uint8_t>(file[at + 1]);
+  };
+  double sum = 0;
+  for (std::size_t x = 80; x < 420; ++x) {
+    sum += std::pow((level(made, x, 30) - level(found, x, 30)) / 257.0, 2);
+  }
+  EXPECT_LT(std::sqrt(sum / 340), 2) << "levels";  // a tenth of a pixel is 0.8
 }
 
 TEST_F(SirdsTest, ReplacesItsOwnSource) {

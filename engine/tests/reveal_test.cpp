@@ -140,6 +140,20 @@ TEST_P(RevealByMethod, LevelsComeBackFromTheirSeparations) {
           LevelFromSeparation(static_cast<int>(separation), rule_.settings, kind, kWidth);
       EXPECT_EQ(separation, SeparationFromLevel(back, rule_.settings, kind, kWidth)) << level;
     }
+    // To parts of a level: within a pixel of the rule, and nearer for less.
+    for (int separation = 60; separation < 95; ++separation) {
+      const double level = FineLevelFromSeparation(separation, rule_.settings, kind, kWidth);
+      const double nearer =
+          FineLevelFromSeparation(separation - 0.25, rule_.settings, kind, kWidth);
+      if (level <= 0 || nearer >= 255) continue;
+      EXPECT_GT(nearer, level) << separation;
+      const auto whole = static_cast<std::int32_t>(std::lround(level));
+      const auto step = SeparationFromLevel(whole, rule_.settings, kind, kWidth) -
+                        SeparationFromLevel(whole + 1, rule_.settings, kind, kWidth);
+      EXPECT_NEAR(static_cast<double>(SeparationFromLevel(whole, rule_.settings, kind, kWidth)),
+                  separation, 1 + static_cast<double>(step) / 2)
+          << separation;
+    }
     EXPECT_LE(LevelFromSeparation(10000, rule_.settings, kind, kWidth), 1);
     EXPECT_GE(LevelFromSeparation(1, rule_.settings, kind, kWidth), 24);
   }
