@@ -214,8 +214,9 @@ void MapPicture::PaintGrid(const PixelRect& area, std::int64_t y, std::span<Pixe
   const std::int64_t first = whole ? left : (left + times - 1) / times * times;
   for (std::int64_t x = first; x < right; x += whole ? 1 : times) {
     Pixel& pixel = pixels[static_cast<std::size_t>(x - area.left)];
-    // Three quarters of what is there and a quarter of a middle gray.
-    pixel = kBlackPixel | (((pixel & 0xFCFCFC) >> 2) * 3 + 0x202020);
+    // Three quarters of what is there, and a quarter of black or, on what is dark, of white.
+    const Pixel lighter = (pixel & 0x80) != 0 ? 0 : 0x3F3F3F;
+    pixel = kBlackPixel | (((pixel & 0xFCFCFC) >> 2) * 3 + lighter);
   }
 }
 

@@ -94,11 +94,11 @@ void TextDialog::ShowPreview() {
   auto shapes = TextShapes(Style(), kShown);
   const PixelRect box = BoxAround(shapes);
   ok_->setEnabled(!shapes.empty());
-  facts_->setText(
-      shapes.empty() ? tr("Nothing to be seen yet.")
-                     : tr("%1 x %2 pixels, %n polygon(s)", nullptr, static_cast<int>(shapes.size()))
-                           .arg(box.right - box.left)
-                           .arg(box.bottom - box.top));
+  facts_->setText(shapes.empty() ? tr("Nothing to be seen yet.")
+                                 : tr("%1 x %2 pixels, polygons: %3")
+                                       .arg(box.right - box.left)
+                                       .arg(box.bottom - box.top)
+                                       .arg(shapes.size()));
   QPixmap picture = QPixmap::fromImage(
       Picture(std::move(shapes), (QSizeF(kPreview) * devicePixelRatioF()).toSize()));
   picture.setDevicePixelRatio(devicePixelRatioF());

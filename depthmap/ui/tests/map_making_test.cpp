@@ -56,9 +56,7 @@ TEST_F(MapMaking, TextBecomesSelectedLettersWithOpenHoles) {
     const auto preview = dialog.findChild<QLabel*>(QStringLiteral("textPreview"))->pixmap();
     EXPECT_EQ(preview.toImage().pixelColor(0, 0), Qt::black);
     const auto facts = dialog.findChild<QLabel*>(QStringLiteral("textFacts"))->text();
-    EXPECT_TRUE(facts.contains(QStringLiteral("3 polygon")) ||
-                facts.contains(QStringLiteral(" polygon")))
-        << facts.toStdString();
+    EXPECT_TRUE(facts.contains(QStringLiteral("polygons: "))) << facts.toStdString();
   });
   const auto letters = window->Objects().Selection();
   ASSERT_GE(letters.size(), 3u);

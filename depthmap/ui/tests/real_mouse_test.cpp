@@ -1,7 +1,10 @@
 // The mouse as a real display tells of it, at several scale factors.
 
 #include <QProcess>
+#include <QScrollBar>
 #include <QtTest/QTest>
+#include <utility>
+#include <vector>
 
 #include "depthmap/ui/tests/map_window_fixture.h"
 
@@ -38,21 +41,34 @@ class RealMouse : public MapWindow {
   }
 };
 
-TEST_F(RealMouse, ReachesEveryPixelOfTheMap) {
+TEST_F(RealMouse, ReachesEveryPixelOfTheMapAtEachZoom) {
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&area));
   window->RunCommand(kSquareBoxTool);
-  for (const QPoint place : {QPoint(0, 0), QPoint(13, 7)}) {
+  const auto* client = window->findChild<QAbstractScrollArea*>(QStringLiteral("client"));
+  using Place = std::pair<QPoint, std::vector<int>>;
+  for (const auto& [place, zooms] : {Place{{0, 0}, {}},
+                                     {{13, 7}, {kCmZoomOut}},
+                                     {{5, 9}, {kCmActualSize, kCmZoomIn, kCmZoomIn}}}) {
     window->move(place);
+    for (const int zoom : zooms) window->RunCommand(zoom);
+    for (QScrollBar* bar : {client->horizontalScrollBar(), client->verticalScrollBar()}) {
+      bar->setValue(0);
+    }
     QTest::qWait(300);  // until it is seen there
     const QPoint corner = MapCorner();
+    const MapScale scale = window->Look().scale;
+    const auto onMap = [&](QPoint shown) {
+      return QPoint(static_cast<int>(scale.MapPixel(shown.x())),
+                    static_cast<int>(scale.MapPixel(shown.y())));
+    };
     for (const QPoint from : {QPoint(20, 20), {31, 33}, {42, 67}, {113, 110}}) {
       const QPoint to = from + QPoint(57, 40);
       const auto before = window->Objects().CountObjects();
       DragOnScreen(corner + from, corner + to);
       EXPECT_TRUE(QTest::qWaitFor([&] { return window->Objects().CountObjects() > before; }));
       const auto [x1, y1, x2, y2] = window->Objects().Head()->GetRect();
-      EXPECT_EQ(QPoint(x1, y1), from);
-      EXPECT_EQ(QPoint(x2, y2), to);
+      EXPECT_EQ(QPoint(x1, y1), onMap(from));
+      EXPECT_EQ(QPoint(x2, y2), onMap(to));
     }
   }
 }
