@@ -3,12 +3,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 #include <QUrl>
 #include <filesystem>
 #include <system_error>
 
 #include "platform/ui/text.h"
+#include "platform/ui/trash.h"
 
 namespace plenovia {
 
@@ -45,11 +45,9 @@ ReplacedFile::ReplacedFile(const QString& path) : path_(QFileInfo(path).absolute
 
 bool ReplacedFile::MoveToTrash() {
   if (!folder_) return true;
-  // A user without any data yet has no place for the trash either.
-  QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
   QString inTrash;
-  const QString kept = folder_->filePath(QFileInfo(path_).fileName());
-  const bool moved = QFile::moveToTrash(kept, &inTrash);
+  const bool moved =
+      plenovia::MoveToTrash(folder_->filePath(QFileInfo(path_).fileName()), &inTrash);
   if (moved && !inTrash.isEmpty()) TellOldPlace(inTrash, path_);
   folder_.reset();
   return moved;

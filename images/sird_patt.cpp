@@ -26,14 +26,25 @@ std::vector<PatternFile> FilesToTry(const PatternFolders& folders) {
 Result<void> TSirdPatt::LoadPatternFile(const PatternFile& file) {
   auto picture = TGifIntf::Read_File(file.path);
   if (!picture) return tl::unexpected(picture.error());
-  entries_.push_back({file.number, std::make_shared<const IndexedImage>(std::move(*picture))});
+  entries_.push_back(
+      {file.number, std::make_shared<const IndexedImage>(std::move(*picture)), file.path});
   return {};
 }
 
 void TSirdPatt::AppendPattern(std::shared_ptr<const IndexedImage> bitmap) {
   int number = 0;
   for (const Entry& entry : entries_) number = std::max(number, entry.number + 1);
-  entries_.push_back({number, std::move(bitmap)});
+  entries_.push_back({number, std::move(bitmap), {}});
+}
+
+std::shared_ptr<const IndexedImage> TSirdPatt::GetBitmap(int index) const {
+  return index < 0 || index >= GetCount() ? nullptr : At(index).bitmap;
+}
+
+void TSirdPatt::RemovePattern(int index) {
+  entries_.erase(entries_.begin() + index);
+  if (current_ > index) --current_;
+  current_ = std::min(current_, GetCount() - 1);
 }
 
 void TSirdPatt::SelectPattern(int index) {

@@ -35,6 +35,17 @@ class TSirdPatt {
   // current entry.
   int GetCurrentNumber() const;
   int GetCount() const { return static_cast<int>(entries_.size()); }
+  // The tile at this position, or null when there is no such position.
+  std::shared_ptr<const IndexedImage> GetBitmap(int index) const;
+  // Of the entry at this position, which exists. A pattern that was appended without a file has an
+  // empty path.
+  int GetNumber(int index) const { return At(index).number; }
+  const std::filesystem::path& GetFile(int index) const { return At(index).file; }
+  // The user's own, not one that ships.
+  bool IsOwn(int index) const { return GetNumber(index) >= kShippedPatterns; }
+  // Takes the entry at this position out of the library; its file stays. When it was the current
+  // one, the next becomes current.
+  void RemovePattern(int index);
   // The current tile with its palette, or null.
   std::shared_ptr<const IndexedImage> GetCurrentBitmap() const;
   // Its palette, or null; valid as long as the tile.
@@ -44,7 +55,9 @@ class TSirdPatt {
   struct Entry {
     int number;
     std::shared_ptr<const IndexedImage> bitmap;
+    std::filesystem::path file;
   };
+  const Entry& At(int index) const { return entries_[static_cast<std::size_t>(index)]; }
   const Entry* Current() const;
 
   PatternFolders folders_;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "codec/gif.h"
+#include "images/pattern_edits.h"
 #include "images/pattern_files.h"
 #include "platform/file_io.h"
 #include "testing/picture_compare.h"
@@ -98,6 +99,34 @@ TEST_F(PatternFolder, IsFoundFromTheProgramByAnyOfItsFiles) {
     EXPECT_EQ(found.program, folder_ / homes[i]);
     EXPECT_EQ(found.programTakesNew, i < 2) << "nothing is added to a source tree";
   }
+}
+
+TEST_F(PatternFolder, EditsAreUndoneAndTellTheirFiles) {
+  Make(20);
+  for (const int own : {20, 21}) Write(user_.path(), own);
+  const auto file = [this](int number) { return user_ / PatternFileName(number); };
+  const auto add = [&](TSirdPatt& library, PatternEdits& edits, int number) {
+    const TSirdPatt before = library;
+    Write(user_.path(), number);
+    ASSERT_TRUE(library.LoadPatternFile({number, file(number)}));
+    edits.Changed(before);
+  };
+  TSirdPatt library = Load(21);
+  PatternEdits edits(library);
+  const TSirdPatt before = library;
+  library.RemovePattern(20);
+  edits.Changed(before);
+  EXPECT_EQ(library.GetCurrentNumber(), 21);
+  EXPECT_TRUE(library.IsOwn(20));
+  EXPECT_FALSE(library.IsOwn(19));
+  add(library, edits, 22);
+  add(library, edits, 23);
+  edits.Undo();
+  EXPECT_EQ(library.GetCount(), 22);
+  EXPECT_EQ(edits.Dropped(), (std::vector{file(20), file(23)}));
+  EXPECT_EQ(edits.Revert(), (std::vector{file(22), file(23)}));
+  EXPECT_EQ(library.GetCount(), 22);
+  EXPECT_EQ(library.GetFile(20), file(20));
 }
 
 }  // namespace

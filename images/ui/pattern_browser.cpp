@@ -43,6 +43,7 @@ void PatternBrowser::Show(int index) {
   shown_ = index;
   library_.SelectPattern(shown_);
   Refresh();
+  Q_EMIT Moved();
 }
 
 void PatternBrowser::RestoreOpening() {

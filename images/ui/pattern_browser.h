@@ -28,6 +28,10 @@ class PatternBrowser : public QWidget {
   // Where more buttons have their place, below "Next" and "Prev".
   QVBoxLayout* Buttons() { return buttons_; }
 
+ Q_SIGNALS:
+  // Another pattern is shown.
+  void Moved();
+
  private:
   void Next();
   void Prev();
