@@ -31,10 +31,25 @@ const CommandRow* RowOf(int command) {
 CommandRouter::CommandRouter(QObject* parent, CommandContext& context)
     : QObject(parent), context_(context) {
   for (const CommandRow& row : CommandTable()) {
-    if (row.number == 0) continue;
-    QAction* action = Add(row.number, Translated(row.text), Translated(row.hint));
-    if (row.keys != nullptr) {
-      action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(row.keys)));
+    if (row.number != 0) Add(row.number, Translated(row.text), Translated(row.hint));
+  }
+  GiveKeys();
+}
+
+void CommandRouter::GiveKeys() {
+  std::map<QString, int> owners;
+  for (const CommandRow& row : CommandTable()) {
+    if (row.keys == nullptr) continue;
+    const QString keys = QString::fromLatin1(row.keys);
+    if (!owners.contains(keys) || IsAvailable(row.number)) owners[keys] = row.number;
+  }
+  for (const CommandRow& row : CommandTable()) {
+    if (row.keys == nullptr) continue;
+    const QString keys = QString::fromLatin1(row.keys);
+    const auto shortcuts =
+        owners[keys] == row.number ? QKeySequence::listFromString(keys) : QList<QKeySequence>();
+    if (Action(row.number)->shortcuts() != shortcuts) {
+      Action(row.number)->setShortcuts(shortcuts);
     }
   }
 }
@@ -124,6 +139,7 @@ void CommandRouter::Refresh() {
   refreshWaits_ = false;
   for (const auto& [command, action] : actions_) action->setEnabled(IsAvailable(command));
   for (const int command : {kCmUndo, kCmRedo}) Action(command)->setText(TextOf(command));
+  GiveKeys();
 }
 
 QString CommandRouter::TextOf(int command) const {

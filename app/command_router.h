@@ -47,6 +47,7 @@ class CommandRouter : public QObject {
  private:
   // The text of a command's row, with what the active window says that it is about.
   QString TextOf(int command) const;
+  void GiveKeys();
   QAction* Add(int command, const QString& text, const QString& hint);
 
   CommandContext& context_;

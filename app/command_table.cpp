@@ -6,6 +6,7 @@
 #include "app/exchange_commands.h"
 #include "app/file_commands.h"
 #include "app/info_commands.h"
+#include "app/make_again.h"
 #include "app/map_commands.h"
 #include "app/save_commands.h"
 #include "app/sirds_commands.h"
@@ -59,6 +60,7 @@ constexpr CommandRow kCommands[] = {
     {kGraphics, 0, nullptr, nullptr, nullptr, nullptr},
     {kGraphics, kCmWizard, T("SIRDS &Wizard"), T("Use SIRDS Wizard"), &CmWizard, nullptr, "Ctrl+Shift+N"},
     {kGraphics, kCmMakeSirds, T("&Make SIRDS"), T("Create SIRDS from a loaded image"), &CmMakeSirds, &CanMakeSirds, "F5"},
+    {kGraphics, kCmMakeAgain, T("Ma&ke Again"), T("Make the stereogram anew with the settings of now"), &CmMakeAgain, &CanMakeAgain, "F5"},
     {kGraphics, kCmGrayImage, T("&Gray Image"), T("Turn current image into a gray scale image"), &CmNothing, nullptr, "Ctrl+G"},
     {kGraphics, kCmSettings, T("&SIRDS Settings"), T("Edit SIRDS Setup parameters"), &CmSettings, nullptr, "Ctrl+,"},
     {kGraphics, kCmPatterns, T("SIRDS &Patterns"), T("Select a SIRDS Pattern"), &CmPatterns, nullptr, "Ctrl+T"},

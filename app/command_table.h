@@ -18,7 +18,9 @@ struct CommandRow {
   const char* hint;
   void (*handler)(CommandContext&);
   bool (*enabler)(const CommandContext&);
-  const char* keys = nullptr;  // as Qt writes them, with "; " between several
+  // As Qt writes them, with "; " between several. Of commands with the same keys the last one that
+  // is available has them, the first one when none is.
+  const char* keys = nullptr;
 };
 
 // The rows in the order of the menus.

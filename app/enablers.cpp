@@ -50,6 +50,12 @@ bool CanMakeSirds(const CommandContext& context) {
   return IsIdle(context) && (kind == kPictureWindow || kind == kDepthMapWindow);
 }
 
+bool CanMakeAgain(const CommandContext& context) {
+  const Document* active = context.desk.Active();
+  return IsIdle(context) && active != nullptr && active->IsStereogram() &&
+         active->MadeBy() != nullptr;
+}
+
 bool HasWindows(const CommandContext& context) {
   return !context.desk.Area().subWindowList().isEmpty();
 }

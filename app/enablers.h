@@ -15,6 +15,7 @@ bool HasPicture(const CommandContext& context);
 bool HasColours(const CommandContext& context);
 bool CanPaste(const CommandContext& context);
 bool CanMakeSirds(const CommandContext& context);
+bool CanMakeAgain(const CommandContext& context);
 bool HasWindows(const CommandContext& context);
 
 }  // namespace plenovia

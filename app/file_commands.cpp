@@ -44,6 +44,16 @@ void ShowReason(CommandContext& context, const QString& what, const QString& pat
   context.status.SetMessage(QString());
 }
 
+// What the file tells of a stereogram. Returns what is wrong with it, or nothing.
+QString TakeRecipe(TSirdsWnd& window, const std::string& comment) {
+  if (comment.empty()) return {};
+  auto recipe = ReadRecipe(comment);
+  if (!recipe) return ToQString(recipe.error().message) + u' ' + Commands::tr("It is ignored.");
+  window.SetMadeBy(std::move(*recipe));
+  window.SetIsStereogram(true);
+  return {};
+}
+
 // The document is open and is what its file holds; `damage` is empty when the file is whole.
 void Opened(CommandContext& context, Document& document, const QString& path,
             const QString& damage) {
@@ -77,9 +87,13 @@ void ShowPicture(CommandContext& context, const QString& path, const Result<Byte
                                kWindowBeforePicture, &context.state.settings);
   context.desk.Adopt(*window);
   const QString damage = ToQString(picture->damage);
+  const QString aboutRecipe = TakeRecipe(*window, picture->comment);
   window->SetImage(std::make_shared<const IndexedImage>(std::move(*picture)));
   window->SetSaved(true);
   Opened(context, *window, path, damage);
+  if (damage.isEmpty() && !aboutRecipe.isEmpty()) {
+    context.status.ShowNote(BaseNameTitle(path) + QStringLiteral(": ") + aboutRecipe);
+  }
 }
 
 void ShowDepthMap(CommandContext& context, const QString& path, const Result<ByteBuffer>& file) {

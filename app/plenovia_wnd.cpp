@@ -196,6 +196,7 @@ void TPlenoviaWnd::LoadSettings(const ProfileFile& settings) {
   });
   state_->lastFormat = settings.GetInt("GRAPHICS", "Format", 1);
   state_->saveFormat = settings.GetInt("GRAPHICS", "SaveFormat", state_->saveFormat);
+  state_->keepsRecipes = settings.GetInt("GRAPHICS", "Recipes", 1) != 0;
   state_->settings = LoadSirdsSettings(settings);
   state_->recentFiles = RecentFiles::Load(settings);
   state_->newMapSize = NewMapSize::Load(settings);
@@ -211,6 +212,7 @@ void TPlenoviaWnd::SaveSettings() {
   file->SetInt("Tools", "CntlBar", barLocation_);
   file->SetInt("GRAPHICS", "Format", state_->lastFormat);
   file->SetInt("GRAPHICS", "SaveFormat", state_->saveFormat);
+  file->SetInt("GRAPHICS", "Recipes", state_->keepsRecipes ? 1 : 0);
   if (state_->patterns.IsMade()) {
     file->SetInt("Patterns", "Select", state_->patterns->GetCurrentNumber());
     file->SetInt("Patterns", "Count", state_->patterns->GetCount());

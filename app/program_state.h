@@ -34,6 +34,8 @@ class ProgramState : public QObject {
   int lastFormat = 1;
   // GraphicFormat of the last lossless picture format that was saved: PNG at first.
   int saveFormat = 6;
+  // Whether stereograms are saved with what made them.
+  bool keepsRecipes = true;
   RecentFiles recentFiles;
   NewMapSize newMapSize;
   // Where the open dialog found a file last; empty before.

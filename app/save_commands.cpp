@@ -59,6 +59,10 @@ std::optional<QString> AskFile(CommandContext& context, const Document& document
   question.defaultExtension = ToQString(SaveExtension(format));
   question.suggestion = WithExtension(document.ProposedFile(), format);
   if (document.IsStereogram()) question.warning = &JpegWarning;
+  if (document.MadeBy() != nullptr) {
+    question.choice = Commands::tr("Tell in the file what &made the stereogram (PNG, GIF, JPEG)");
+    question.checked = &context.state.keepsRecipes;
+  }
   return AskSaveFile(&context.frame, question);
 }
 
@@ -70,6 +74,7 @@ void SaveInto(CommandContext& context, Document& document, const QString& path) 
   context.status.SetMessage(document.SavingText(path));
   const bool own = QFileInfo(path) == QFileInfo(document.File());
   ReplacedFile replaced(own ? QString() : path);
+  document.KeepRecipe(context.state.keepsRecipes);
   const Result<void> written = document.Save(path);
   context.status.SetMessage(QString());
   if (!written) {

@@ -11,6 +11,7 @@
 #include "app/command_context.h"
 #include "app/desk.h"
 #include "app/file_commands.h"
+#include "app/make_again.h"
 #include "app/program_state.h"
 #include "app/save_commands.h"
 #include "app/settings_path.h"
@@ -39,6 +40,7 @@ namespace {
 
 void MakeFromPicture(CommandContext& context, Document& source) {
   const QString proposed = ProposedStereogramFile(source);
+  SourcePlace place{&source, source.File()};
   auto made = MakeSirdFromBitmap(source, context.state.patterns.get(), context.state.settings);
   if (!made) {
     ShowFailure(&context.frame, made.error());
@@ -49,6 +51,8 @@ void MakeFromPicture(CommandContext& context, Document& source) {
                                &context.state.settings);
   window->SetIsStereogram(true);
   window->ProposeFile(proposed);
+  window->SetMadeBy(made->run.MadeBy());
+  window->SetSource(std::move(place));
   context.desk.Adopt(*window);
   window->SetImage(std::move(made->bitmap));
   window->TellFittedRange(made->run);
@@ -71,13 +75,15 @@ void MakeInNewWindow(CommandContext& context, const QString& title, const QStrin
   }
 }
 
-void MakeFromLevels(CommandContext& context, const Document& map,
+void MakeFromLevels(CommandContext& context, Document& map,
                     const std::shared_ptr<const LevelGrid>& levels) {
   context.status.SetMessage(QString());
   context.status.SetImageText(QString());
   MakeInNewWindow(context, Commands::tr("untitled"), ProposedStereogramFile(map),
-                  QSize(levels->GridWidth(), levels->GridHeight()),
-                  [&levels](TSirdsWnd& window) { return window.MakeSirdFromDepthMap(levels); });
+                  QSize(levels->GridWidth(), levels->GridHeight()), [&](TSirdsWnd& window) {
+                    window.SetSource({&map, map.File()});
+                    return window.MakeSirdFromDepthMap(levels);
+                  });
 }
 
 // What the wizard's size page asks for.
@@ -113,7 +119,9 @@ void CmMakeSirds(CommandContext& context) {
   if (Document* active = context.desk.Active()) {
     const DocumentDepth depth = active->Depth();
     if (active->IsStereogram()) {
-      ShowMessage(&context.frame, Commands::tr("The active window is already a SIRD."),
+      ShowMessage(&context.frame,
+                  Commands::tr("The active window is already a SIRD.") + u'\r' +
+                      Commands::tr("Make Again (F5) makes it anew with the settings of now."),
                   Commands::tr("Note"), MessageIcon::kInformation);
     } else if (depth.levels) {
       MakeFromLevels(context, *active, depth.levels);
@@ -137,11 +145,10 @@ void CmFormula(CommandContext& context) {
   if (dialog.exec() != QDialog::Accepted) return;
   const Formula formula = context.state.formula = dialog.Chosen();
   const TSirdsSettings& settings = context.state.settings;
-  const auto draw = [formula](const RunInput& input) {
-    return DrawFormula(formula, input.settings.w, input.settings.h, input.threads, input.monitor);
-  };
   MakeInNewWindow(context, Commands::tr("Formula"), QString(), QSize(settings.w, settings.h),
-                  [&draw](TSirdsWnd& window) { return window.MakeSirdFromFine(draw); });
+                  [&formula](TSirdsWnd& window) {
+                    return window.MakeSirdFromFine(DrawingOf(formula), RecipeSourceOf(formula));
+                  });
 }
 
 void CmWizard(CommandContext& context) {

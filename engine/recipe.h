@@ -30,7 +30,7 @@ struct Recipe {
   RecipeSource source;
   std::string pattern{};            // the name of its file
   std::uint64_t patternDigest = 0;  // PictureDigest() of it
-  TSirdsSettings settings;          // with the depth range that was used, fitted or not
+  TSirdsSettings settings{};        // with the depth range that was used, fitted or not
   std::string program{};            // the version that made the stereogram
 
   bool operator==(const Recipe&) const = default;

@@ -112,7 +112,8 @@ TEST_F(Runs, EachFigureOfTheMenuIsThatOfTheEngineWithACaption) {
 TEST_F(Runs, AStereogramIsNotMadeIntoAnother) {
   AddPicture(NoisePicture(200, 200, 64))->SetIsStereogram(true);
   DialogAnswers answers;
-  answers.AddMessage(QStringLiteral("The active window is already a SIRD."),
+  answers.AddMessage(QStringLiteral("The active window is already a SIRD.\n"
+                                    "Make Again (F5) makes it anew with the settings of now."),
                      QStringLiteral("Note"));
   Run(kCmMakeSirds);
   EXPECT_EQ(Pictures().size(), 1U);

@@ -9,6 +9,7 @@ enum Command {
   kCmMakeSirds = 103,
   kCmGrayImage = 104,
   kCmWizard = 105,
+  kCmMakeAgain = 106,
   kCmSettings = 107,
   kCmRelocateBar = 109,
   kCmColorTable = 110,

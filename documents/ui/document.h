@@ -19,6 +19,7 @@ namespace plenovia {
 
 class TSirdPatt;
 struct Notice;
+struct Recipe;
 
 enum WindowKind { kPictureWindow = 1, kDepthMapWindow = 2, kColourTableWindow = 3 };
 
@@ -83,6 +84,10 @@ class Document : public QMdiSubWindow {
   virtual std::shared_ptr<const IndexedImage> Picture() const { return nullptr; }
   virtual DocumentDepth Depth() const { return {}; }
   virtual bool IsStereogram() const { return false; }
+  // What made the stereogram, or null.
+  virtual const Recipe* MadeBy() const { return nullptr; }
+  // Whether Save() writes that into the file; at first it does.
+  virtual void KeepRecipe(bool /*keep*/) {}
   // Shows the busy cursor over the window, or its own again.
   virtual void ShowBusy(bool /*busy*/) {}
   // Shows a notice above the document, in place of an earlier one.

@@ -13,13 +13,22 @@ FittedRange RangeAsSet(const TSirdsSettings& settings) {
   return {.zmin = settings.zmin, .zmax = settings.zmax};
 }
 
+TSirdsSettings UsedSettings(const SirdRun& run) {
+  TSirdsSettings used = run.settings;
+  used.zmin = run.range.zmin;
+  used.zmax = run.range.zmax;
+  return used;
+}
+
 }  // namespace
 
 Result<IndexedImage> SirdRun::Make(RunMonitor& monitor) const {
-  TSirdsSettings used = settings;
-  used.zmin = range.zmin;
-  used.zmax = range.zmax;
+  const TSirdsSettings used = UsedSettings(*this);
   return make({*pattern, used, monitor});
+}
+
+Recipe SirdRun::MadeBy() const {
+  return MakeRecipe(source, patternFile, *pattern, UsedSettings(*this));
 }
 
 SirdRun SirdRun::WithRangeAsSet() const {

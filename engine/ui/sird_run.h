@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "engine/fit_depth_range.h"
 #include "engine/generation.h"
+#include "engine/recipe.h"
 #include "engine/sirds_settings.h"
 #include "platform/fine_image.h"
 #include "platform/indexed_image.h"
@@ -21,9 +23,13 @@ struct SirdRun {
   std::function<Result<IndexedImage>(const RunInput&)> make;
   std::shared_ptr<const IndexedImage> pattern;
   TSirdsSettings settings;
-  FittedRange range;  // in place of that of the settings
+  FittedRange range;          // in place of that of the settings
+  RecipeSource source{};      // what the recipe tells of what it is made from,
+  std::string patternFile{};  // and what the pattern's file is called
 
   [[nodiscard]] Result<IndexedImage> Make(RunMonitor& monitor) const;
+  // Needs the pattern.
+  Recipe MadeBy() const;
   // The same with the range of the settings.
   SirdRun WithRangeAsSet() const;
 };

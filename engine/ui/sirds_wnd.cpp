@@ -8,6 +8,7 @@
 #include "engine/ui/depth_range_hint.h"
 #include "engine/ui/frame_monitor.h"
 #include "engine/ui/screen_wnd.h"
+#include "images/ui/figure_titles.h"
 #include "platform/ui/message_box.h"
 #include "platform/ui/private_message.h"
 #include "platform/ui/resource_pictures.h"
@@ -51,20 +52,47 @@ std::shared_ptr<const IndexedImage> TSirdsWnd::CurrentPattern() {
   return patterns_ != nullptr ? patterns_->GetCurrentBitmap() : nullptr;
 }
 
-Result<void> TSirdsWnd::MakeSirdFromDepthMap(std::shared_ptr<const LevelGrid> map) {
-  auto pattern = CurrentPattern();
-  return Draw(RunFromMap(std::move(map), std::move(pattern), *settings_));
+SirdRun TSirdsWnd::WithNames(SirdRun run, RecipeSource source) const {
+  run.source = std::move(source);
+  run.patternFile = PatternFileOf(patterns_);
+  return run;
 }
 
-Result<void> TSirdsWnd::MakeSirdFromFine(FineDrawing draw) {
+Result<void> TSirdsWnd::MakeSirdFromDepthMap(std::shared_ptr<const LevelGrid> map) {
   auto pattern = CurrentPattern();
-  return Draw(RunFromFine(std::move(draw), std::move(pattern), *settings_));
+  const std::string name = source_.window ? FileNameOf(*source_.window) : std::string();
+  return Draw(WithNames(RunFromMap(std::move(map), std::move(pattern), *settings_),
+                        {RecipeKind::kDepthMap, name}));
+}
+
+Result<void> TSirdsWnd::MakeSirdFromFine(FineDrawing draw, RecipeSource source) {
+  auto pattern = CurrentPattern();
+  return Draw(
+      WithNames(RunFromFine(std::move(draw), std::move(pattern), *settings_), std::move(source)));
 }
 
 Result<void> TSirdsWnd::MakeSirdFromFigure(std::int32_t code) {
   auto pattern = CurrentPattern();
-  return Draw(RunFromFigure(code, settings_->useBmp != 0 ? Picture() : nullptr, GetTitle(),
-                            std::move(pattern), *settings_));
+  auto background = settings_->useBmp != 0 ? Picture() : nullptr;
+  const std::string under = background ? FileNameOf(*this) : std::string();
+  const QString figure = FigureTitle(-code - 1);
+  const QString caption = Picture() ? GetTitle() : BaseNameTitle(figure);
+  return Draw(
+      WithNames(RunFromFigure(code, std::move(background), caption, std::move(pattern), *settings_),
+                {RecipeKind::kFigure, figure.toStdString(), under}));
+}
+
+Result<void> TSirdsWnd::MakeAgain(const SirdRun& run) {
+  return Draw(run, WhenStopped::kStays);
+}
+
+std::string TSirdsWnd::Comment() const {
+  if (!recipe_ || !keepsRecipe_) return {};
+  Recipe recipe = *recipe_;
+  // It may have got its file since.
+  if (source_.window && recipe.source.name.empty())
+    recipe.source.name = FileNameOf(*source_.window);
+  return RecipeText(recipe);
 }
 
 Result<void> TSirdsWnd::Draw(const SirdRun& run, WhenStopped whenStopped) {
@@ -91,6 +119,7 @@ Result<void> TSirdsWnd::Draw(const SirdRun& run, WhenStopped whenStopped) {
   }
   ++drawings_;
   if (!Picture()) isStereogram_ = true;
+  recipe_ = run.MadeBy();
   SetSaved(false);
   HideNotice();
   SetImage(std::make_shared<const IndexedImage>(std::move(*made)));
@@ -153,6 +182,14 @@ void TSirdsWnd::RunCommand(int command) {
   }
 }
 
+std::string FileNameOf(const Document& document) {
+  return ToPath(document.File()).filename().string();
+}
+
+std::string PatternFileOf(const TSirdPatt* patterns) {
+  return patterns != nullptr ? PatternFileName(patterns->GetCurrentNumber()) : std::string();
+}
+
 Result<TSirdResult> MakeSirdFromBitmap(Document& source, const TSirdPatt* patterns,
                                        const TSirdsSettings& settings) {
   const DocumentDepth depth = source.Depth();
@@ -166,6 +203,9 @@ Result<TSirdResult> MakeSirdFromBitmap(Document& source, const TSirdPatt* patter
   const BusyWindow busy(source);
   TSirdResult result;
   result.run = RunFromPicture(depth.picture, depth.zoom, pattern, settings);
+  result.run.source = {
+      RecipeKind::kPicture, FileNameOf(source), {}, static_cast<std::int32_t>(depth.zoom * 100)};
+  result.run.patternFile = PatternFileOf(patterns);
   result.title = source.GetTitle() + QStringLiteral("{sird}");
   FrameMonitor monitor(source.Frame());
   monitor.BeepOnStop();

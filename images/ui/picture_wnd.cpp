@@ -138,7 +138,7 @@ Result<void> TPictureWnd::Save(const QString& path) {
   TGraphIO codec;
   codec.SetGraphicFormat(static_cast<int>(FormatOfPath(path.toStdString())));
   ClearUpperVectorHalves();
-  Result<void> written = codec.Write_File(ToPath(path), *picture_);
+  Result<void> written = codec.Write_File(ToPath(path), *picture_, Comment());
   SetSaved(written.has_value());
   if (written) SetFile(path);
   return written;

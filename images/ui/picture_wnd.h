@@ -6,6 +6,7 @@
 #include <QSize>
 #include <QString>
 #include <memory>
+#include <string>
 
 #include "codec/graph_io.h"
 #include "documents/ui/mouse_wnd.h"
@@ -67,6 +68,8 @@ class TPictureWnd : public TMouseWnd {
   DocumentDepth Depth() const override { return {picture_, zoom_, nullptr}; }
 
  protected:
+  // What Save() writes into the file beside the picture (codec/picture_comment.h).
+  virtual std::string Comment() const { return {}; }
   void Paint(QPainter& painter, const QRect& exposed) override;
   void ClientResized() override;
   void EvMDIActivate(bool active) override;

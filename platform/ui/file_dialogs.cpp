@@ -1,5 +1,6 @@
 #include "platform/ui/file_dialogs.h"
 
+#include <QCheckBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -37,6 +38,18 @@ void AddWarning(QFileDialog& dialog, const std::function<QString(const QString&)
   };
   QObject::connect(name, &QLineEdit::textChanged, label, tell);
   QObject::connect(&dialog, &QFileDialog::filterSelected, label, tell);
+}
+
+// Adds the box of the question's choice. It keeps what is chosen once the dialog is accepted.
+void AddChoice(QFileDialog& dialog, const FileQuestion& question) {
+  auto* layout = qobject_cast<QGridLayout*>(dialog.layout());
+  if (layout == nullptr || question.choice.isEmpty()) return;
+  auto* box = new QCheckBox(question.choice, &dialog);
+  box->setObjectName(QStringLiteral("choice"));
+  box->setChecked(*question.checked);
+  layout->addWidget(box, layout->rowCount(), 0, 1, -1);
+  QObject::connect(&dialog, &QDialog::accepted, box,
+                   [box, checked = question.checked] { *checked = box->isChecked(); });
 }
 
 // Those that are there, home, desktop and documents, and `own` if it is not empty.
@@ -107,6 +120,7 @@ std::optional<QString> AskSaveFile(QWidget* owner, const FileQuestion& question)
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   if (question.warning) AddWarning(dialog, question.warning);
+  AddChoice(dialog, question);
   for (auto path = Ask(dialog, question); path; path = Ask(dialog, question)) {
     const QString folder = QFileInfo(*path).absolutePath();
     if (QFileInfo(folder).isDir()) return path;

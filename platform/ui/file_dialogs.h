@@ -25,6 +25,10 @@ struct FileQuestion {
   std::function<void(QFileDialog&)> extend;  // adds to a dialog that is Qt's own; may be empty
   // What the dialog says below the name while the file with this path is chosen; may be null.
   std::function<QString(const QString& path)> warning;
+  // A box below that, when it has a text: `checked` is its state at first and when the dialog was
+  // accepted. Only for saving.
+  QString choice;
+  bool* checked = nullptr;
 };
 
 // An existing file, or nothing when the user cancels.
