@@ -100,6 +100,30 @@ TEST_F(WindowPlaces, ZoomingKeepsThePointInTheMiddle) {
   }
 }
 
+TEST_F(WindowPlaces, TheWheelZoomsAboutTheMouse) {
+  TSirdsWnd* window = AddPicture(NoisePicture(900, 700, 16));
+  window->SetClientSize({211, 151});
+  const auto* view = View(*window);
+  view->horizontalScrollBar()->setValue(400);
+  view->verticalScrollBar()->setValue(333);
+  const QPoint mouse(60, 110);
+  const auto place = [&] {
+    const QPoint scrolled(view->horizontalScrollBar()->value(), view->verticalScrollBar()->value());
+    return QPointF(scrolled + mouse) / window->Zoom();
+  };
+  const QPointF before = place();
+  const qreal scale = view->devicePixelRatioF();
+  for (const auto& [notches, zoom] : {std::pair(1, 2.0), {5, 4.0}, {-2, 1.0}}) {
+    const QPointF at = (QPointF(mouse) + QPointF(0.5, 0.5)) / scale;
+    QWheelEvent event(at, view->viewport()->mapToGlobal(at), {},
+                      {0, notches * QWheelEvent::DefaultDeltasPerStep}, Qt::NoButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(view->viewport(), &event);
+    EXPECT_EQ(window->Zoom(), zoom);
+    EXPECT_LE((place() - before).manhattanLength(), 2) << zoom;
+  }
+}
+
 TEST_F(WindowPlaces, WhatIsShownFollowsThePicture) {
   TSirdsWnd* window = AddPicture(NoisePicture(300, 250, 64));
   window->SetClientSize({140, 120});

@@ -16,7 +16,8 @@ namespace plenovia {
 namespace {
 
 constexpr int kScaleWidth = 14;
-constexpr int kMargin = 3;
+constexpr int kMargin = 2;
+constexpr double kSmall = 0.8;  // of the panel's texts to the font
 
 // From black at the bottom to white at the top.
 class GrayScale : public QWidget {
@@ -76,8 +77,11 @@ LevelPanel::LevelPanel(QWidget* parent)
     map_->BeginLevelChange();
   });
   connect(slider_, &QSlider::sliderReleased, this, &LevelPanel::EndSlide);
+  QFont small = font();
+  if (small.pointSizeF() > 0) small.setPointSizeF(small.pointSizeF() * kSmall);
+  for (QLabel* label : {whose_, others_}) label->setFont(small);
   // So that the frame's inside stays where it is when the texts change.
-  const QFontMetrics metrics(font());
+  const QFontMetrics metrics(small);
   int widest = 0;
   for (const QString& text :
        {tr("Selected"), tr("Next %1").arg(kHighestLevel), tr("Ground %1").arg(kHighestLevel)}) {
