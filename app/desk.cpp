@@ -1,6 +1,7 @@
 #include "app/desk.h"
 
 #include <QColor>
+#include <QLayout>
 
 #include "app/cascade.h"
 
@@ -48,6 +49,16 @@ void Desk::CloseDocuments() {
 
 void Desk::RepaintNow() {
   area_->viewport()->repaint();
+}
+
+void Desk::FitDocuments() {
+  // The frame's bars take their room first.
+  if (QLayout* bars = area_->window()->layout()) bars->activate();
+  for (QMdiSubWindow* window : area_->subWindowList()) {
+    auto* document = qobject_cast<Document*>(window);
+    if (document == nullptr || document->isMaximized() || document->isMinimized()) continue;
+    document->PlaceAt(document->geometry());
+  }
 }
 
 }  // namespace plenovia

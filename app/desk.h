@@ -28,6 +28,8 @@ class Desk : public QObject {
   // Closes them without asking.
   void CloseDocuments();
   void RepaintNow();
+  // Windows that the desk has become too small for lie on it as a whole again.
+  void FitDocuments();
 
   // The one colour table window, or null.
   TColorWnd* ColourTable() const { return colourTable_; }

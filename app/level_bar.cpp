@@ -1,5 +1,7 @@
 #include "app/level_bar.h"
 
+#include <algorithm>
+
 #include "app/busy_state.h"
 #include "app/desk.h"
 #include "app/status_bar.h"
@@ -17,7 +19,18 @@ LevelBar::LevelBar(QWidget* frame, Desk& desk, const BusyState& busy, TCStatusBa
   connect(&desk, &Desk::StateChanged, this, &LevelBar::Follow);
 }
 
+void LevelBar::ShowWithMaps() {
+  const auto windows = desk_.Area().subWindowList();
+  const bool shown = std::ranges::any_of(windows, [](const QMdiSubWindow* window) {
+    return !window->isHidden() && qobject_cast<const TMapWindow*>(window) != nullptr;
+  });
+  if (shown == !isHidden()) return;
+  setVisible(shown);
+  desk_.FitDocuments();
+}
+
 void LevelBar::Follow() {
+  ShowWithMaps();
   auto* map = qobject_cast<TMapWindow*>(desk_.Active());
   if (map != map_) {
     if (map_) disconnect(map_, &TMapWindow::Told, this, nullptr);

@@ -12,16 +12,19 @@ class LevelPanel;
 class TCStatusBar;
 class TMapWindow;
 
-// Also shows in the status bar what the active map tells, as long as no operation shows its
-// progress there. What it is given outlives it.
+// Shown while a depth map is open. Also shows in the status bar what the active map tells, as long
+// as no operation shows its progress there. What it is given outlives it.
 class LevelBar : public QToolBar {
   Q_OBJECT
 
  public:
   LevelBar(QWidget* frame, Desk& desk, const BusyState& busy, TCStatusBar& status);
 
- private:
+  // Shows what is true of the desk's windows now.
   void Follow();
+
+ private:
+  void ShowWithMaps();
 
   Desk& desk_;
   const BusyState& busy_;

@@ -82,13 +82,7 @@ TPlenoviaWnd::TPlenoviaWnd(const ProfileFile& settings, TWelcome* welcome)
     QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
   });
   // Windows that were opened before lie on the smaller desk too.
-  PlaceFrame(*this, LoadFrameRect(settings), [this] {
-    for (QMdiSubWindow* window : desk_->Area().subWindowList()) {
-      auto* document = qobject_cast<Document*>(window);
-      if (document == nullptr || document->isMaximized() || document->isMinimized()) continue;
-      document->PlaceAt(document->geometry());
-    }
-  });
+  PlaceFrame(*this, LoadFrameRect(settings), [this] { desk_->FitDocuments(); });
   if (LoadStartsMaximised(settings)) setWindowState(Qt::WindowMaximized);
   new FileDrop(
       *this, [this] { return commands_->IsAvailable(kCmOpen); },
@@ -135,7 +129,8 @@ void TPlenoviaWnd::PlaceMainBar(int location) {
   addToolBar(Qt::LeftToolBarArea, toolsPalette_);
   addToolBarBreak(Qt::LeftToolBarArea);
   addToolBar(Qt::LeftToolBarArea, levelBar_);
-  for (QToolBar* bar : bars) bar->show();
+  for (ButtonBar* bar : {mainBar_, toolsPalette_}) bar->show();
+  levelBar_->Follow();
 }
 
 void TPlenoviaWnd::SetupWindow(const ProfileFile& settings) {
