@@ -23,7 +23,7 @@ export XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home
 
 echo "| what | figure | compared with | figure | ratio |"
 echo "|---|---:|---|---:|---|"
-for program in desktop_start waits desktop_runs scan_methods make depth_map map_picture figures \
+for program in desktop_start waits desktop_runs live_view scan_methods make depth_map map_picture figures \
   reveal colour_reducer; do
   build/release/bench/bench_$program 2>>"$log"
 done

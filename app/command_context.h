@@ -23,6 +23,7 @@ struct CommandContext {
   TCStatusBar& status;
   PopupHint& hint;
   std::function<HelpWindow&()> help;
+  std::function<void()> toggleLiveView;
   // Gives a command once the events that wait are handled.
   std::function<void(int command)> runLater;
 };

@@ -57,6 +57,7 @@ constexpr CommandRow kCommands[] = {
     {kGraphics, kCmZoomToFit, T("&Zoom to Fit"), T("Show all of the map"), nullptr, &IsIdle, "Ctrl+9"},
     {kGraphics, kCmMapView, T("Map View: &Next"), T("Show the map as outlines, shaded, or both"), nullptr, nullptr, "O"},
     {kGraphics, kCmFullScreen, T("&Full Screen"), T("View Full Screen"), nullptr, nullptr, "F11"},
+    {kGraphics, kCmLiveView, T("&Live View"), T("Show or hide the stereogram as it changes"), &CmLiveView, nullptr, "F9"},
     {kGraphics, 0, nullptr, nullptr, nullptr, nullptr},
     {kGraphics, kCmWizard, T("SIRDS &Wizard"), T("Use SIRDS Wizard"), &CmWizard, nullptr, "Ctrl+Shift+N"},
     {kGraphics, kCmMakeSirds, T("&Make SIRDS"), T("Create SIRDS from a loaded image"), &CmMakeSirds, &CanMakeSirds, "F5"},

@@ -18,6 +18,7 @@
 #include "app/frame_placement.h"
 #include "app/help_window.h"
 #include "app/level_bar.h"
+#include "app/live_host.h"
 #include "app/pattern_face.h"
 #include "app/recent_menu.h"
 #include "app/settings_path.h"
@@ -55,6 +56,7 @@ TPlenoviaWnd::TPlenoviaWnd(const ProfileFile& settings, TWelcome* welcome)
                *status_,
                *hint_,
                [this]() -> HelpWindow& { return Help(); },
+               [this] { live_->Toggle(); },
                [this](int command) {
                  QMetaObject::invokeMethod(
                      this, [this, command] { commands_->Run(command); }, Qt::QueuedConnection);
@@ -88,11 +90,14 @@ TPlenoviaWnd::TPlenoviaWnd(const ProfileFile& settings, TWelcome* welcome)
       *this, [this] { return commands_->IsAvailable(kCmOpen); },
       [this](const QString& path) { OpenByName(context_, path); });
   new StartPage(context_);
+  live_ = new LiveHost(*this, context_, *commands_, settings);
+  connect(live_, &LiveHost::Changed, &settingsDelay_, qOverload<>(&QTimer::start));
 }
 
 TPlenoviaWnd::~TPlenoviaWnd() {
   // Document windows still talk to the frame while they go.
   delete &desk_->Area();
+  delete live_;
   delete help_;
   _UnloadFigureTitles();
 }
@@ -218,6 +223,7 @@ void TPlenoviaWnd::SaveSettings() {
   if (!state_->openFolder.isEmpty()) {
     file->SetText("Files", "Folder", ToPath(state_->openFolder).string());
   }
+  live_->Store(*file);
   SaveFrameRect(*this, *file);
   // A file that cannot be written stays as it was; the next change tries again.
   if (file->Text() != before) static_cast<void>(file->Save(SettingsPath()));

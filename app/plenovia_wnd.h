@@ -17,6 +17,7 @@ namespace plenovia {
 class ButtonBar;
 class HelpWindow;
 class LevelBar;
+class LiveHost;
 class PopupHint;
 class TCStatusBar;
 class TWelcome;
@@ -52,6 +53,7 @@ class TPlenoviaWnd : public QMainWindow {
   TSirdPatt* Patterns() { return state_->patterns.get(); }
   int LastFormat() const { return state_->lastFormat; }
   void Adopt(Document& window) { desk_->Adopt(window); }
+  LiveHost& Live() { return *live_; }
   bool IsBusy() const { return busy_->IsBusy(); }
 
  protected:
@@ -83,6 +85,7 @@ class TPlenoviaWnd : public QMainWindow {
   ButtonBar* mainBar_ = nullptr;
   ButtonBar* toolsPalette_ = nullptr;
   LevelBar* levelBar_ = nullptr;
+  LiveHost* live_ = nullptr;
   QPointer<TWelcome> welcome_;
   QTimer settingsDelay_;
   QPointer<HelpWindow> help_;

@@ -32,6 +32,10 @@ void CmColorTable(CommandContext& context) {
   table->SetSource(picture->palette());
 }
 
+void CmLiveView(CommandContext& context) {
+  context.toggleLiveView();
+}
+
 void CmCascade(CommandContext& context) {
   CascadeWindows(context.desk.Area());
 }

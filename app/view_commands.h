@@ -8,6 +8,7 @@ struct CommandContext;
 // Shows the palette of the active picture in the one colour table window.
 void CmColorTable(CommandContext& context);
 
+void CmLiveView(CommandContext& context);
 void CmCascade(CommandContext& context);
 void CmTile(CommandContext& context);
 // Lines the minimised windows up at the bottom.

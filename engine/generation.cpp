@@ -221,6 +221,9 @@ Result<IndexedImage> FromFigure(const FigureRun& figure, const RunInput& input) 
     canvas.background = &*background;
   }
   canvas.runWidth = canvas.finalWidth;
+  if (figure.known != nullptr) {
+    return Generate(canvas, MapDepth(*figure.known, 0), input, figure.caption);
+  }
   const FigureDepth depth(figure.level, figure.code, canvas.finalWidth, canvas.height, settings);
   return Generate(canvas, depth, input, figure.caption);
 }

@@ -52,6 +52,9 @@ struct FigureRun {
   const IndexedImage* background = nullptr;
   // Called on the finished picture before the markers are drawn, when given.
   std::function<void(IndexedImage&)> caption;
+  // The levels of the rows as the run needs them, when they are known from a run that differed in
+  // the pattern, the range or the markers only.
+  const LevelGrid* known = nullptr;
 };
 
 // Depth from a mathematical figure.

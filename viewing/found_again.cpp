@@ -43,7 +43,10 @@ FoundAgain CompareFound(const RevealedDepth& revealed, const LevelField& truth,
       const auto column = static_cast<std::int64_t>(x);
       const std::int64_t left =
           anchor == RevealAnchor::kCentre ? column - (right >> 1) : column - right;
-      if (right <= 0 || left < 0 || left + right >= revealed.width) continue;
+      if (right <= 0 || left < 0 || left + right >= revealed.width) {
+        row[x] = kOutsideColour;
+        continue;
+      }
       ++result.counted;
       if (std::abs(found[x] - right) <= 1) {
         ++result.found;

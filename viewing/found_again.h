@@ -13,8 +13,12 @@ namespace plenovia {
 
 inline constexpr std::uint32_t kWrongColour = OpaqueColour(214, 40, 40);
 
+inline constexpr std::uint32_t kOutsideColour = OpaqueColour(52, 56, 64);
+
 struct FoundAgain {
-  RgbPicture picture;  // the depth found as gray, near is bright; what differs in kWrongColour
+  // The depth found as gray, near is bright; what differs in kWrongColour, and kOutsideColour where
+  // no pair can lie inside the picture.
+  RgbPicture picture;
   std::int64_t counted = 0;  // pixels whose pair lies inside the picture
   std::int64_t found = 0;    // of these, those within one pixel of the right separation
   double Share() const {

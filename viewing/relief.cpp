@@ -14,7 +14,7 @@ namespace plenovia {
 namespace {
 
 constexpr int kMostPoints = 256;  // of the grid, a side
-constexpr double kDepth = 0.4;    // of the shorter side
+constexpr double kDepth = 0.3;    // of the shorter side
 
 struct Vector {
   double x = 0;
@@ -183,7 +183,7 @@ double LightAt(const Vector& normal) {
   static const Vector kLight = Unit({-0.5, -0.62, 0.75});
   static const Vector kHalf = Unit({kLight.x, kLight.y, kLight.z + 1});
   const double lit = std::max(0.0, Dot(normal, kLight));
-  return 0.24 + 0.78 * lit + 0.25 * std::pow(std::max(0.0, Dot(normal, kHalf)), 24.0);
+  return 0.32 + 0.70 * lit + 0.25 * std::pow(std::max(0.0, Dot(normal, kHalf)), 24.0);
 }
 
 }  // namespace

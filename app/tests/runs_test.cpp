@@ -131,12 +131,13 @@ TEST_F(Runs, WhileOneRunsOnlyStoppingAndWhatIsAlwaysThereAreAvailable) {
     Run(kCmStopProcess);
     EXPECT_TRUE(Available(kCmOpen));
   });
-  const std::vector<int> expected{
-      kCmPrinterSetup, kCmVideoInformation, kCmFullScreen, kCmWizard,
-      kCmGrayImage,    kCmSettings,         kCmPatterns,   kCmVersion,
-      kCmFormula,      kCmCascade,          kCmTile,       kCmArrangeIcons,
-      kCmCloseAll,     kCmHelpIndex,        kCmHelpSirds,  kCmGraphicsLib,
-      kCmAbout,        kCmRelocateBar,      kCmStopProcess};
+  const std::vector<int> expected{kCmPrinterSetup, kCmVideoInformation, kCmFullScreen,
+                                  kCmLiveView,     kCmWizard,           kCmGrayImage,
+                                  kCmSettings,     kCmPatterns,         kCmVersion,
+                                  kCmFormula,      kCmCascade,          kCmTile,
+                                  kCmArrangeIcons, kCmCloseAll,         kCmHelpIndex,
+                                  kCmHelpSirds,    kCmGraphicsLib,      kCmAbout,
+                                  kCmRelocateBar,  kCmStopProcess};
   EXPECT_EQ(available, expected);
   EXPECT_EQ(Pictures().size(), 1U) << "a stopped run makes no window";
 }

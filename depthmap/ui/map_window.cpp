@@ -371,6 +371,10 @@ void TMapWindow::Paint(QPainter& painter, const QRect& exposed) {
 }
 
 void TMapWindow::Repaint(const PixelRect& area) {
+  const auto row = [this](std::int64_t y) {
+    return static_cast<int>(std::clamp<std::int64_t>(y, 0, list_->GridHeight()));
+  };
+  Q_EMIT DepthChanged(row(area.top), row(area.bottom));
   changed_.push_back(area);
   if (changed_.size() > 1) return;
   QMetaObject::invokeMethod(this, &TMapWindow::RepaintChanged, Qt::QueuedConnection);

@@ -20,6 +20,7 @@ enum Command {
   kCmMapView = 115,
   kCmMapSize = 116,
   kCmMapSteps = 117,
+  kCmLiveView = 130,
   kCmVideoInformation = 119,
   kCmStopProcess = 205,
   kCmCopy = 221,

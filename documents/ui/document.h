@@ -111,6 +111,8 @@ class Document : public QMdiSubWindow {
  Q_SIGNALS:
   // What decides about commands may have changed: the saved flag, the zoom, the selection.
   void StateChanged();
+  // The rows of its depth from `first` up to `end`, not included, may be others now.
+  void DepthChanged(int first, int end);
   // This window is the active one and has this tool.
   void ToolChanged(int tool);
 

@@ -75,13 +75,15 @@ SirdRun RunFromFine(FineDrawing draw, std::shared_ptr<const IndexedImage> patter
 
 SirdRun RunFromFigure(std::int32_t code, std::shared_ptr<const IndexedImage> background,
                       const QString& title, std::shared_ptr<const IndexedImage> pattern,
-                      const TSirdsSettings& settings) {
+                      const TSirdsSettings& settings, std::shared_ptr<const LevelGrid> known) {
   FittedRange range = RangeAsSet(settings);
   if (settings.fitRange != 0) range = FitDepthRange(kFigureLevels, SourceKind::kShape, settings);
-  const auto make = [code, background = std::move(background), title](const RunInput& input) {
+  const auto make = [code, background = std::move(background), title,
+                     known = std::move(known)](const RunInput& input) {
     FigureRun run;
     run.level = &_GetFigureLevel;
     run.code = code;
+    run.known = known.get();
     run.background = background.get();
     run.caption = [&title](IndexedImage& picture) { DrawFigureCaption(picture, title); };
     return MakeSirdFromFigure(run, input);

@@ -44,9 +44,11 @@ SirdRun RunFromMap(std::shared_ptr<const LevelGrid> map,
 using FineDrawing = std::function<Result<FineImage>(const RunInput&)>;
 SirdRun RunFromFine(FineDrawing draw, std::shared_ptr<const IndexedImage> pattern,
                     const TSirdsSettings& settings);
-// `code` is -(number of the figure + 1), `background` may be null, `title` is the caption.
+// `code` is -(number of the figure + 1), `background` may be null, `title` is the caption,
+// `known` as FigureRun has it.
 SirdRun RunFromFigure(std::int32_t code, std::shared_ptr<const IndexedImage> background,
                       const QString& title, std::shared_ptr<const IndexedImage> pattern,
-                      const TSirdsSettings& settings);
+                      const TSirdsSettings& settings,
+                      std::shared_ptr<const LevelGrid> known = nullptr);
 
 }  // namespace plenovia

@@ -13,9 +13,11 @@
 
 #include "app/command_table.h"
 #include "app/file_commands.h"
+#include "app/live_host.h"
 #include "app/tests/monkey/monkey.h"
 #include "app/tests/monkey/pokes.h"
 #include "depthmap/ui/map_window.h"
+#include "live/ui/live_panel.h"
 
 namespace plenovia {
 
@@ -261,6 +263,30 @@ void StopRun(Monkey& monkey) {
   monkey.Frame().Commands().Run(kCmStopProcess);
 }
 
+void UseLiveView(Monkey& monkey) {
+  LiveDock& dock = monkey.Frame().Live().Dock();
+  Chance& dice = monkey.Dice();
+  if (!dock.isVisible() || dice.OneIn(8)) {
+    monkey.Note("shows or hides Live View");
+    monkey.Frame().Commands().Run(kCmLiveView);
+    return;
+  }
+  if (dice.OneIn(12)) {
+    monkey.Note("Live View floats or not");
+    dock.setFloating(!dock.isFloating());
+    return;
+  }
+  dock.Fill();
+  QWidget* widget = AnyWidgetIn(*dock.Panel(), dice);
+  monkey.Note(std::string("Live View: ") + widget->metaObject()->className() + " " +
+              widget->objectName().toStdString());
+  if (dice.OneIn(3)) {
+    StrikeKey(dock.window()->windowHandle(), static_cast<Qt::Key>(dice.Int(Qt::Key_1, Qt::Key_6)));
+  } else {
+    Poke(*widget, dice);
+  }
+}
+
 struct ActRow {
   int weight;
   void (*perform)(Monkey&);
@@ -272,7 +298,7 @@ constexpr ActRow kActs[] = {
     {10, &UseAnyWidget},  {6, &UseAnyKey},        {10, &ChangeDocumentWindow},
     {2, &ChangeFrame},    {1, &ChangeLook},       {1, &CloseFrame},
     {8, &OpenFile},       {5, &ChangeParameters}, {2, &FillClipboard},
-    {3, &StopRun},
+    {3, &StopRun},        {10, &UseLiveView},
 };
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <fstream>
 #include <string>
 
+#include "app/live_host.h"
 #include "app/tests/monkey/monkey.h"
 #include "app/tests/monkey/monkey_files.h"
 #include "app/tests/monkey/order.h"
@@ -60,6 +61,7 @@ class MonkeyTest : public ProgramTest {
     }
     ResetPatterns(chance);
     Start();
+    Frame().Live().Dock().Fill();
     objects_ = ObjectsOf(Frame());
   }
 
