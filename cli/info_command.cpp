@@ -37,6 +37,10 @@ Outcome<void> Tell(const std::string& file) {
     return Print(Lines(opened->format, fine->width(), fine->height()) +
                  "levels: " + std::to_string(DifferentLevels(*fine)) + '\n');
   }
+  if (const auto* mesh = std::get_if<Mesh>(&opened->source)) {
+    return Print("format: " + opened->format +
+                 "\ntriangles: " + std::to_string(mesh->triangles.size()) + '\n');
+  }
   const auto& picture = std::get<IndexedImage>(opened->source);
   std::string lines = Lines(opened->format, picture.width(), picture.height()) +
                       "colours: " + std::to_string(picture.palette().size()) + '\n';
@@ -57,7 +61,8 @@ void AddInfoCommand(CLI::App& program, Task& task) {
   command->footer(
       "Prints lines such as \"format: GIF\", \"size: 640x480\" and \"colours: 256\" (the colours\n"
       "of its palette); of a depth picture of fine levels \"levels: 1000\", those that occur; of\n"
-      "a depth map \"format: RDS\", its size and \"objects: 7\". Of a stereogram that has its\n"
+      "a model \"triangles: 800\"; of a depth map \"format: RDS\", its size and \"objects: 7\".\n"
+      "Of a stereogram that has its\n"
       "recipe the source, the pattern and the options that made it.\n\n"
       "Example: sirds info scene.png");
   command->callback([&task, file] { task = [file] { return Tell(*file); }; });

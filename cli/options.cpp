@@ -176,7 +176,7 @@ std::string OptionsOf(const Recipe& recipe) {
   options += settings.marker == 0      ? " --no-markers"
              : settings.bigMarker != 0 ? " --large-markers"
                                        : " --markers";
-  if (kind == RecipeKind::kFigure || kind == RecipeKind::kFormula) {
+  if (kind == RecipeKind::kFigure || kind == RecipeKind::kFormula || kind == RecipeKind::kText) {
     add("--width", settings.w);
     add("--height", settings.h);
   }

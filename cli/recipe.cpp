@@ -21,6 +21,8 @@ std::string KindName(const RecipeSource& source) {
       return "figure";
     case RecipeKind::kFormula:
       return "formula";
+    case RecipeKind::kText:
+      return "text";
     case RecipeKind::kDepthMap:
       return "depth map";
     case RecipeKind::kPicture:

@@ -12,7 +12,9 @@
 #include "sources/fine_picture.h"
 #include "sources/formula.h"
 #include "sources/heights.h"
+#include "sources/model.h"
 #include "sources/resample.h"
+#include "sources/text.h"
 
 namespace plenovia {
 
@@ -47,9 +49,20 @@ Outcome<Source> OpenFormula(const std::string& text, const SourceOptions& option
   return Source(std::move(*image));
 }
 
+Outcome<Source> OpenText(const std::string& lines, const SourceOptions& options, int, RunMonitor&) {
+  auto image = DrawText(options.TextOf(lines), options.width(), options.height());
+  if (!image) return Failed("text", image.error());
+  return Source(std::move(*image));
+}
+
 SourceForm FormOf(const Source& file) {
+  if (std::holds_alternative<Mesh>(file)) return SourceForm::kModel;
   if (std::holds_alternative<TDepthList>(file)) return SourceForm::kMap;
   return std::holds_alternative<FineImage>(file) ? SourceForm::kFinePicture : SourceForm::kPicture;
+}
+
+std::string NameOf(ModelFormat format) {
+  return format == ModelFormat::kStl ? "STL" : format == ModelFormat::kObj ? "OBJ" : "PLY";
 }
 
 // The forms of source that are no files.
@@ -63,6 +76,7 @@ struct SourceOpener {
 constexpr SourceOpener kOpeners[] = {
     {"figure:", SourceForm::kFigure, RecipeKind::kFigure, OpenFigure},
     {"formula:", SourceForm::kFormula, RecipeKind::kFormula, OpenFormula},
+    {"text:", SourceForm::kText, RecipeKind::kText, OpenText},
 };
 
 // The one whose prefix the text has, or null.
@@ -76,8 +90,10 @@ const SourceOpener* OpenerOf(const std::string& text) {
 
 std::string SourceHelp() {
   return "A picture (" + ReadableNames() +
-         "), a depth\npicture of fine levels (PNG or PGM of 16 bits, PFM),\na depth map (.rds), "
-         "figure:NUMBER, figure:TITLE or\nformula:Z, such as \"formula:cos(x)*cos(y)\"";
+         "), a depth\npicture of fine levels (PNG or PGM of 16 bits, PFM),\na model (STL, OBJ, "
+         "PLY), "
+         "a depth map (.rds),\nfigure:NUMBER, figure:TITLE, formula:Z, such as\n"
+         "\"formula:cos(x)*cos(y)\", or text:LINES";
 }
 
 Outcome<Source> OpenSource(const std::string& text, const SourceOptions& options, int threads,
@@ -92,6 +108,11 @@ Outcome<Source> OpenSource(const std::string& text, const SourceOptions& options
   if (!opened) return tl::unexpected(opened.error());
   if (auto checked = options.Check(FormOf(opened->source)); !checked) {
     return tl::unexpected(checked.error());
+  }
+  if (const auto* mesh = std::get_if<Mesh>(&opened->source)) {
+    auto drawn = DrawModel(*mesh, options.view(), options.width(), options.height(), threads);
+    if (!drawn) return Failed(text, drawn.error());
+    return Source(std::move(*drawn));
   }
   if (auto* fine = std::get_if<FineImage>(&opened->source)) {
     StretchLevels(*fine);
@@ -117,6 +138,11 @@ Outcome<OpenedFile> OpenFile(const std::string& file, int threads, Nearness near
     if (!decoded) return Failed(file, decoded.error());
     if (!decoded->damage.empty()) Warn(file, decoded->damage);
     return OpenedFile{std::move(decoded->image), std::string(format), {}};
+  }
+  if (const ModelFormat format = ModelFormatOf(*bytes, file); format != ModelFormat::kNone) {
+    auto mesh = DecodeModel(format, *bytes);
+    if (!mesh) return Failed(file, mesh.error());
+    return OpenedFile{std::move(*mesh), NameOf(format), {}};
   }
   auto picture = Decode(file, *bytes, threads);
   if (!picture) return tl::unexpected(picture.error());

@@ -12,6 +12,7 @@
 #include "engine/run_monitor.h"
 #include "platform/fine_image.h"
 #include "platform/indexed_image.h"
+#include "sources/mesh.h"
 
 namespace plenovia {
 
@@ -21,15 +22,15 @@ struct Figure {
   std::int32_t Code() const { return -(number + 1); }
 };
 
-// What has fine levels comes as a FineImage.
-using Source = std::variant<IndexedImage, TDepthList, Figure, FineImage>;
+// What has fine levels comes as a FineImage; a model does so from OpenSource().
+using Source = std::variant<IndexedImage, TDepthList, Figure, FineImage, Mesh>;
 
 // The words of help for a SOURCE.
 std::string SourceHelp();
 
-// A picture, a picture of fine levels or a depth map, whichever the content of the file is. Of a
-// damaged file what can be read, with a warning; `threads` may work on it, or one a processor when
-// that is 0.
+// A picture, a picture of fine levels, a model or a depth map, whichever the content of the file
+// is. Of a damaged file what can be read, with a warning; `threads` may work on it, or one a
+// processor when that is 0.
 struct OpenedFile {
   Source source;
   std::string format;   // such as "GIF"; "RDS" for a depth map

@@ -2,8 +2,8 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <charconv>
 #include <cmath>
-#include <sstream>
 #include <utility>
 
 #include "cli/options.h"
@@ -26,6 +26,10 @@ const char* NameOf(SourceForm form) {
       return "figures";
     case SourceForm::kFormula:
       return "formulas";
+    case SourceForm::kText:
+      return "texts";
+    case SourceForm::kModel:
+      return "models";
   }
   return "";
 }
@@ -46,7 +50,8 @@ void SourceOptions::AddTo(CLI::App& command, TSirdsSettings& settings) {
   settings_ = &settings;
   sizes_ = {AddNumber(command, "--width", settings.w, 1, kFarthest, "Width of the picture"),
             AddNumber(command, "--height", settings.h, 1, kFarthest, "Height of the picture")};
-  for (CLI::Option* size : sizes_) Limit(size, {kFigure, kFormula, kFinePicture}, Kind::kOther);
+  for (CLI::Option* size : sizes_)
+    Limit(size, {kFigure, kFormula, kText, kModel, kFinePicture}, Kind::kOther);
   Limit(AddNumber(command, "--dx", settings.dx, -kFarthest, kFarthest, "Pixels to the right"),
         {kFigure}, Kind::kOther);
   Limit(AddNumber(command, "--dy", settings.dy, -kFarthest, kFarthest, "Pixels up"), {kFigure},
@@ -61,6 +66,54 @@ void SourceOptions::AddTo(CLI::App& command, TSirdsSettings& settings) {
                    {"dark", static_cast<std::int32_t>(Nearness::kDark)}},
                   "What is near"),
         {kFinePicture});
+  Limit(command
+            .add_option("--font", font_,
+                        "An installed font or a font file, which has a slash\n"
+                        "in its name (default " +
+                            font_ + ")")
+            ->option_text("NAME"),
+        {kText});
+  Limit(AddChoice(command, "--profile", profile_,
+                  {{"flat", static_cast<std::int32_t>(TextProfile::kFlat)},
+                   {"round", static_cast<std::int32_t>(TextProfile::kRound)}},
+                  "The letters"),
+        {kText});
+  AddView(command);
+  Limit(AddReal(command, "--perspective", view_.perspective, 0, kWidestPerspective,
+                "Degrees that the longer side spans; 0 is parallel"),
+        {kModel});
+}
+
+void SourceOptions::AddView(CLI::App& command) {
+  const auto parse = [this](const std::string& text) {
+    ModelView view = view_;
+    const auto read = [](const char* from, const char* end, double& angle) {
+      const auto [stop, error] = std::from_chars(from, end, angle);
+      return error == std::errc() && std::abs(angle) <= 360 ? stop : nullptr;
+    };
+    const char* const end = text.data() + text.size();
+    const char* comma = read(text.data(), end, view.turn);
+    if (comma == nullptr || comma == end || *comma != ',' ||
+        read(comma + 1, end, view.tilt) != end) {
+      throw CLI::ValidationError("--view takes two angles such as 30,20, not '" + text + "'");
+    }
+    view_ = view;
+  };
+  Limit(command
+            .add_option_function<std::string>("--view", parse,
+                                              "Degrees that the model's front turns to the right,\n"
+                                              "and its top to the viewer (default 0,0)")
+            ->option_text("TURN,TILT"),
+        {SourceForm::kModel});
+}
+
+Text SourceOptions::TextOf(const std::string& lines) const {
+  Text text{.lines = lines, .font = font_, .profile = static_cast<TextProfile>(profile_)};
+  // Shells make it hard to type line ends.
+  for (std::size_t at = 0; (at = text.lines.find("\\n", at)) != std::string::npos;) {
+    text.lines.replace(at, 2, "\n");
+  }
+  return text;
 }
 
 void SourceOptions::Limit(CLI::Option* option, std::vector<SourceForm> forms, Kind kind) {
@@ -89,12 +142,18 @@ std::string SourceOptions::Shape() const {
 }
 
 bool SourceOptions::TakeShape(const std::string& shape) const {
-  std::istringstream words(shape);
-  for (std::string name, value; words >> name;) {
+  for (std::size_t at = 0; at < shape.size();) {
+    const std::size_t end = std::min(shape.find(" --", at), shape.size());
+    const std::string option = shape.substr(at, end - at);
+    const std::size_t space = option.find(' ');
+    if (space == std::string::npos) return false;
+    const std::string name = option.substr(0, space);
+    const std::string value = option.substr(space + 1);
+    at = end + 1;
     const auto limited = std::ranges::find_if(limited_, [&](const Limited& each) {
       return each.kind == Kind::kShape && each.option->get_name() == name;
     });
-    if (limited == limited_.end() || !(words >> value)) return false;
+    if (limited == limited_.end()) return false;
     if (limited->option->count() > 0) continue;
     try {
       limited->option->add_result(value);

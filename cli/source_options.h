@@ -10,6 +10,8 @@
 #include "engine/sirds_settings.h"
 #include "sources/fine_picture.h"
 #include "sources/formula.h"
+#include "sources/model.h"
+#include "sources/text.h"
 
 namespace CLI {
 class App;
@@ -18,7 +20,7 @@ class Option;
 
 namespace plenovia {
 
-enum class SourceForm { kPicture, kFinePicture, kMap, kFigure, kFormula };
+enum class SourceForm { kPicture, kFinePicture, kMap, kFigure, kFormula, kText, kModel };
 
 class SourceOptions {
  public:
@@ -44,6 +46,8 @@ class SourceOptions {
   int height() const { return settings_->h; }
   // The size that a picture of this size is to get: the one given, in its shape when one side is.
   std::pair<int, int> SizeOf(int width, int height) const;
+  Text TextOf(const std::string& lines) const;
+  const ModelView& view() const { return view_; }
   Nearness nearness() const { return static_cast<Nearness>(nearness_); }
   Formula FormulaOf(const std::string& text) const { return {text, reach_}; }
 
@@ -57,6 +61,11 @@ class SourceOptions {
   std::vector<CLI::Option*> sizes_;
   const TSirdsSettings* settings_ = nullptr;
   std::int32_t nearness_ = static_cast<std::int32_t>(Nearness::kBright);
+  void AddView(CLI::App& command);
+
+  std::string font_ = Text().font;
+  std::int32_t profile_ = static_cast<std::int32_t>(TextProfile::kFlat);
+  ModelView view_;
   double reach_ = Formula().reach;
 };
 

@@ -18,7 +18,8 @@ constexpr std::string_view kForm = "Plenovia recipe ";
 constexpr std::string_view kFormVersion = "1";
 constexpr std::string_view kEnd = "end";
 constexpr std::string_view kBetween = ": ";
-constexpr std::array<std::string_view, 4> kKinds = {"picture", "depth map", "figure", "formula"};
+constexpr std::array<std::string_view, 5> kKinds = {"picture", "depth map", "figure", "formula",
+                                                    "text"};
 constexpr std::int32_t kMostZoom = 1000;
 constexpr std::size_t kLongestVersion = 32;
 constexpr int kDigestDigits = 16;
@@ -120,7 +121,7 @@ bool ReadDigest(std::string_view text, std::uint64_t& digest) {
 }
 
 bool NamesFile(const RecipeSource& source) {
-  return source.kind != RecipeKind::kFormula;
+  return source.kind != RecipeKind::kFormula && source.kind != RecipeKind::kText;
 }
 
 // Takes the first line off the text; nothing when no line ends in it.

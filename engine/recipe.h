@@ -12,13 +12,13 @@
 
 namespace plenovia {
 
-enum class RecipeKind { kPicture, kDepthMap, kFigure, kFormula };
+enum class RecipeKind { kPicture, kDepthMap, kFigure, kFormula, kText };
 
 // Names are those of files, without their folders, and of at most kLongestRecipeName bytes; empty
 // when there is none.
 struct RecipeSource {
   RecipeKind kind = RecipeKind::kPicture;
-  std::string name{};        // of a figure: its title; of a formula: all of it
+  std::string name{};        // of a figure: its title; of a formula or a text: all of it
   std::string background{};  // the picture that a figure was drawn into
   std::int32_t zoom = 100;   // of a picture, in per cent: 1 to 1000
   std::string shape{};       // options of `sirds` that shape such a source, beside the settings

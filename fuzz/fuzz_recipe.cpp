@@ -20,7 +20,7 @@ void Try(std::string_view text) {
   if (!recipe) return;
   const RecipeSource& source = recipe->source;
   Require(source.name.size() <= kLongestRecipeText && source.shape.size() <= kLongestRecipeText);
-  const bool isFile = source.kind != RecipeKind::kFormula;
+  const bool isFile = source.kind != RecipeKind::kFormula && source.kind != RecipeKind::kText;
   for (const std::string* name :
        {isFile ? &source.name : &source.background, &source.background, &recipe->pattern}) {
     Require(name->size() <= kLongestRecipeName && *name != "." && *name != "..");

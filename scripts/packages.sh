@@ -38,7 +38,8 @@ need_packages() {
 # To build the cores and the command line.
 core_packages=(
   cmake g++ ninja-build
-  libcli11-dev libexpected-dev libgif-dev libjpeg62-turbo-dev libmuparser-dev libpng-dev
+  libcli11-dev libexpected-dev libfontconfig-dev libfreetype-dev libgif-dev libjpeg62-turbo-dev
+  libmuparser-dev libpng-dev libtinyobjloader-dev
   zlib1g-dev
 )
 # To build the desktop program, and to show it.

@@ -163,6 +163,32 @@ TEST_F(SirdsTest, FineLevelsGoFromFileToFileAndThroughAStereogram) {
   EXPECT_LT(std::sqrt(sum / 340), 2) << "levels";  // a tenth of a pixel is 0.8
 }
 
+TEST_F(SirdsTest, TextsAndModelsAreSourcesToo) {
+  Write("wedge.obj", "v 0 0 0\nv 2 0 0\nv 2 1 0\nv 0 1 1\nf 1 2 3\nf 1 3 4\n");
+  const std::string model = Path("wedge.obj");
+  EXPECT_EQ(Sirds({"info", model}).out, "format: OBJ\ntriangles: 2\n");
+  const auto depth = [&](std::vector<std::string> words) {
+    words.insert(words.begin(), "depth");
+    words.insert(words.end(), {"-o", Path("d.png"), "--width", "300", "--height", "200"});
+    const Finished run = Sirds(words);
+    EXPECT_EQ(run.status, 0) << run.err;
+    return Read(Path("d.png"));
+  };
+  const IndexedImage front = depth({model});
+  EXPECT_EQ(front.Row(0)[0], 0);
+  EXPECT_GT(front.Row(130)[100], 0);
+  EXPECT_FALSE(SamePixels(front, depth({model, "--view", "30,20", "--perspective", "40"})));
+  EXPECT_TRUE(SamePixels(depth({"text:A\\nB"}), depth({"text:A\nB"})));
+  // A recipe brings the shape back, fonts with blanks in their names too.
+  const Finished made = Sirds({"make", "text:HI", "-o", out_, "--pattern", tile_, "--font",
+                               "DejaVu Sans", "--profile", "round", "--width", "200"});
+  ASSERT_EQ(made.status, 0) << made.err;
+  const Finished again =
+      Sirds({"make", "text:HI", "-o", Path("again.png"), "--pattern", tile_, "--like", out_});
+  ASSERT_EQ(again.status, 0) << again.err;
+  EXPECT_TRUE(SamePixels(Read(out_), Read(Path("again.png"))));
+}
+
 TEST_F(SirdsTest, ReplacesItsOwnSource) {
   ASSERT_EQ(Sirds({"make", scene_, "-o", out_, "--pattern", tile_}).status, 0);
   ASSERT_EQ(Sirds({"make", scene_, "-o", scene_, "--pattern", tile_}).status, 0);
