@@ -22,6 +22,7 @@ void CmNothing(CommandContext&) {}
 constexpr auto kFile = QT_TRANSLATE_NOOP("Commands", "&File");
 constexpr auto kEdit = QT_TRANSLATE_NOOP("Commands", "&Edit");
 constexpr auto kGraphics = QT_TRANSLATE_NOOP("Commands", "&Graphics");
+constexpr auto kShapes = QT_TRANSLATE_NOOP("Commands", "&Shapes");
 constexpr auto kMath = QT_TRANSLATE_NOOP("Commands", "&Math SIRDS");
 constexpr auto kWindow = QT_TRANSLATE_NOOP("Commands", "&Window");
 constexpr auto kHelp = QT_TRANSLATE_NOOP("Commands", "&Help");
@@ -42,8 +43,10 @@ constexpr CommandRow kCommands[] = {
     {kEdit, kCmUndo, T("&Undo"), T("Take back the last step"), nullptr, nullptr, "Ctrl+Z"},
     {kEdit, kCmRedo, T("&Redo"), T("Do again what was taken back"), nullptr, nullptr, "Ctrl+Shift+Z; Ctrl+Y"},
     {kEdit, 0, nullptr, nullptr, nullptr, nullptr},
+    {kEdit, kCmCut, T("Cu&t"), T("Move the selected shapes to the clipboard"), nullptr, nullptr, "Ctrl+X"},
     {kEdit, kCmCopy, T("&Copy"), T("Copy to Clipboard"), nullptr, &IsIdle, "Ctrl+C"},
     {kEdit, kCmPaste, T("&Paste"), T("Paste from Clipboard"), &CmPaste, &CanPaste, "Ctrl+V"},
+    {kEdit, kCmDuplicate, T("&Duplicate"), T("Put copies of the selected shapes beside them"), nullptr, nullptr, "Ctrl+D"},
     {kEdit, 0, nullptr, nullptr, nullptr, nullptr},
     {kEdit, kCmSelectAll, T("Select &All"), T("Select all shapes of the depth map"), nullptr, nullptr, "Ctrl+A"},
     {kEdit, 0, nullptr, nullptr, nullptr, nullptr},
@@ -66,6 +69,27 @@ constexpr CommandRow kCommands[] = {
     {kGraphics, kCmSettings, T("&SIRDS Settings"), T("Edit SIRDS Setup parameters"), &CmSettings, nullptr, "Ctrl+,"},
     {kGraphics, kCmPatterns, T("SIRDS &Patterns"), T("Select a SIRDS Pattern"), &CmPatterns, nullptr, "Ctrl+T"},
     {kGraphics, kCmColorTable, T("Color &Table"), T("View the Color Map for a loaded image"), &CmColorTable, &HasColours},
+    {kShapes, kShapesToTop, T("To &Top"), T("Put the selected shapes above all others"), nullptr, nullptr, "Ctrl+Shift+]"},
+    {kShapes, kMoveObjectUp, T("Move Depth Object &Up"), T("Move Depth Object Up"), nullptr, nullptr, "Ctrl+]"},
+    {kShapes, kMoveObjectDown, T("Move Depth Object Do&wn"), T("Move Depth Object Down"), nullptr, nullptr, "Ctrl+["},
+    {kShapes, kShapesToBottom, T("To &Bottom"), T("Put the selected shapes below all others"), nullptr, nullptr, "Ctrl+Shift+["},
+    {kShapes, kDeleteObject, T("&Delete Selected Depth Object"), T("Delete Selected Depth Object"), nullptr, nullptr, "Del"},
+    {kShapes, 0, nullptr, nullptr, nullptr, nullptr},
+    {kShapes, kTurnLeft, T("Turn &Left"), T("Turn the selected shapes to the left"), nullptr, nullptr, "Shift+R"},
+    {kShapes, kTurnRight, T("Turn &Right"), T("Turn the selected shapes to the right"), nullptr, nullptr, "Ctrl+R"},
+    {kShapes, kRotate, T("R&otate..."), T("Turn polygons and lines by any angle"), nullptr, nullptr, "Ctrl+Shift+R"},
+    {kShapes, kMirrorLeftRight, T("&Mirror Left and Right"), T("Exchange the left and the right of the selected shapes"), nullptr, nullptr, "H"},
+    {kShapes, kMirrorUpDown, T("Mirror U&p and Down"), T("Exchange the top and the bottom of the selected shapes"), nullptr, nullptr, "Shift+H"},
+    {kShapes, 0, nullptr, nullptr, nullptr, nullptr},
+    {kShapes, kAlignLeft, T("Align Left &Edges"), T("Line up the left edges of the selected shapes"), nullptr, nullptr},
+    {kShapes, kAlignCentre, T("Align &Centres"), T("Line up the middles of the selected shapes from left to right"), nullptr, nullptr},
+    {kShapes, kAlignRight, T("Align Right Ed&ges"), T("Line up the right edges of the selected shapes"), nullptr, nullptr},
+    {kShapes, kAlignTop, T("Align Top Edge&s"), T("Line up the top edges of the selected shapes"), nullptr, nullptr},
+    {kShapes, kAlignMiddle, T("&Align Middles"), T("Line up the middles of the selected shapes from top to bottom"), nullptr, nullptr},
+    {kShapes, kAlignBottom, T("Al&ign Bottom Edges"), T("Line up the bottom edges of the selected shapes"), nullptr, nullptr},
+    {kShapes, 0, nullptr, nullptr, nullptr, nullptr},
+    {kShapes, kSpreadAcross, T("E&qual Gaps Across"), T("Make the gaps between shapes equal from left to right"), nullptr, nullptr},
+    {kShapes, kSpreadDown, T("Equal Gaps Dow&n"), T("Make the gaps between shapes equal from top to bottom"), nullptr, nullptr},
     {kMath, kCmVersion, T("&Version"), T("Get Math Library version"), &CmVersion, nullptr},
     {kMath, kCmFormula, T("&Formula..."), T("Make a stereogram of a formula z = f(x, y)"), &CmFormula, nullptr},
     {kMath, 0, nullptr, nullptr, nullptr, nullptr},
@@ -92,9 +116,6 @@ constexpr CommandRow kCommands[] = {
     {nullptr, kPolygonTool, T("Draw Polygon Object Tool"), T("Draw Polygon Object Tool"), nullptr, nullptr, "P"},
     {nullptr, kCircleTool, T("Draw Cyrcle Object Tool"), T("Draw Cyrcle Object Tool"), nullptr, nullptr, "E"},
     {nullptr, kSetLevel, T("Select and Set Level"), T("Select and Set Level"), nullptr, nullptr, "V"},
-    {nullptr, kMoveObjectUp, T("Move Depth Object Up"), T("Move Depth Object Up"), nullptr, nullptr, "Ctrl+]"},
-    {nullptr, kMoveObjectDown, T("Move Depth Object Down"), T("Move Depth Object Down"), nullptr, nullptr, "Ctrl+["},
-    {nullptr, kDeleteObject, T("Delete Selected Depth Object"), T("Delete Selected Depth Object"), nullptr, nullptr, "Del"},
     {nullptr, kTextFont, T("Select Text Object Font"), T("Select Text Object Font"), nullptr, nullptr},
 };
 // clang-format on

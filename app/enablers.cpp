@@ -42,7 +42,11 @@ bool HasColours(const CommandContext& context) {
 }
 
 bool CanPaste(const CommandContext& context) {
-  return IsIdle(context) && context.state.clipboard.HasPicture();
+  const Document* active = context.desk.Active();
+  const ClipboardPictures& clipboard = context.state.clipboard;
+  return IsIdle(context) &&
+         (clipboard.HasPicture() ||
+          (active != nullptr && !clipboard.FirstOffered(active->PasteFormats()).isEmpty()));
 }
 
 bool CanMakeSirds(const CommandContext& context) {

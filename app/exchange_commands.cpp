@@ -1,6 +1,8 @@
 #include "app/exchange_commands.h"
 
+#include <QPointer>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "app/command_context.h"
@@ -18,9 +20,32 @@ namespace {
 
 constexpr QSize kWindowBeforePicture(200, 40);
 
+// False when the active window takes nothing that is on the clipboard.
+bool PasteIntoActive(CommandContext& context) {
+  Document* active = context.desk.Active();
+  if (active == nullptr) return false;
+  ClipboardPictures& clipboard = context.state.clipboard;
+  const QList<QByteArray> formats = active->PasteFormats();
+  const QByteArray format = clipboard.FirstOffered(formats);
+  if (format.isEmpty()) return false;
+  // A text beside a picture is about the picture.
+  if (format != formats.front() && clipboard.HasPicture()) return false;
+  const QPointer<Document> target(active);
+  clipboard.ReadBytes(format, [&context, target](const std::optional<QByteArray>& bytes) {
+    if (!bytes) {
+      context.status.SetMessage(
+          Commands::tr("The program that owns the clipboard does not answer."));
+    } else if (target && !target->Paste(*bytes)) {
+      context.status.SetMessage(Commands::tr("There is nothing to paste on the clipboard."));
+    }
+  });
+  return true;
+}
+
 }  // namespace
 
 void CmPaste(CommandContext& context) {
+  if (PasteIntoActive(context)) return;
   context.state.clipboard.ReadPicture([&context](Result<IndexedImage> picture) {
     if (!picture) {
       context.status.SetMessage(ToQString(picture.error().message));

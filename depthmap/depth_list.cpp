@@ -298,7 +298,7 @@ void TDepthList::SelectAll(std::span<const TDepthObj* const> objects) {
   for (TDepthObj* object : selection_) object->Invalidate();
 }
 
-std::vector<TDepthObj*> TDepthList::SelectedFromTop() const {
+std::vector<TDepthObj*> TDepthList::SelectionFromTop() const {
   if (selection_.size() < 2) return selection_;
   std::vector<TDepthObj*> all;
   for (TDepthObj* object = head_; object != nullptr; object = NextOf(object)) {
@@ -335,7 +335,7 @@ void TDepthList::CmDelete() {
 
 void TDepthList::CmMoveUp() {
   const MapEdit edit(*this, EditKind::kRestack);
-  for (TDepthObj* object : SelectedFromTop()) {
+  for (TDepthObj* object : SelectionFromTop()) {
     TDepthObj* passed = PrevOf(object);
     if (passed == nullptr || passed->IsSelected() || object == background_) continue;
     passed->Invalidate();
@@ -345,7 +345,7 @@ void TDepthList::CmMoveUp() {
 
 void TDepthList::CmMoveDown() {
   const MapEdit edit(*this, EditKind::kRestack);
-  std::vector<TDepthObj*> fromTop = SelectedFromTop();
+  std::vector<TDepthObj*> fromTop = SelectionFromTop();
   for (auto object = fromTop.rbegin(); object != fromTop.rend(); ++object) {
     TDepthObj* passed = NextOf(*object);
     if (passed == nullptr || passed == background_ || passed->IsSelected()) continue;

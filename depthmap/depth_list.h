@@ -49,6 +49,8 @@ class TDepthList final : public LevelGrid {
   // The selected objects in the order of their selection, and the last of them or null.
   std::span<TDepthObj* const> Selection() const { return selection_; }
   const TDepthObj* Selected() const { return selection_.empty() ? nullptr : selection_.back(); }
+  // The same, topmost first.
+  std::vector<TDepthObj*> SelectionFromTop() const;
   // Whether the object is in this list.
   bool Holds(const TDepthObj& object) const { return object.home_ == rows_.get(); }
 
@@ -147,7 +149,6 @@ class TDepthList final : public LevelGrid {
   TDepthObj* Unlink(TDepthObj* object);
   void Changed();
   void Deselect(TDepthObj* object);
-  std::vector<TDepthObj*> SelectedFromTop() const;
 
   TDepthObj* head_ = nullptr;  // owned, with all that follows it
   TDepthObj* background_ = nullptr;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdlib>
 
 #include "depthmap/object_painting.h"
 
@@ -44,6 +45,12 @@ void RubberBand::AddVertex(const DepthPoint& point) {
 
 std::span<const DepthPoint> RubberBand::Vertices() const {
   return IsActive() ? shape_->GetPoints() : std::span<const DepthPoint>();
+}
+
+bool RubberBand::IsClosedBy(const DepthPoint& point, std::int64_t tolerance) const {
+  const std::span<const DepthPoint> vertices = Vertices();
+  return vertices.size() > 2 && std::abs(std::int64_t{point.x} - vertices.front().x) <= tolerance &&
+         std::abs(std::int64_t{point.y} - vertices.front().y) <= tolerance;
 }
 
 void RubberBand::SetLine(const DepthPoint& from, const DepthPoint& to) {

@@ -32,6 +32,9 @@ class RubberBand {
   // The vertices of a polygon, without a limit. A new one takes the line away.
   void AddVertex(const DepthPoint& point);
   std::span<const DepthPoint> Vertices() const;
+  // Whether a vertex here, up to `tolerance` pixels from the first one, would only close the
+  // polygon.
+  bool IsClosedBy(const DepthPoint& point, std::int64_t tolerance) const;
   void SetLine(const DepthPoint& from, const DepthPoint& to);
   // Shows a polygon as it would be if it were finished now.
   void SetClosed(bool closed) { closed_ = closed; }

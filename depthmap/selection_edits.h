@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -26,7 +27,26 @@ class ShiftedSelection {
   std::vector<std::pair<const TDepthObj*, DepthGeometry>> objects_;
 };
 
-// Moves the selected objects; one step.
+// Each of these is one step, and leaves the background box as it is unless it says otherwise.
+
+// Moves the selected objects, the background box too.
 void ShiftSelection(TDepthList& list, const MapWay& way);
+
+// Above or below all others; among themselves they keep their order.
+void PutSelectionOnTop(TDepthList& list);
+void PutSelectionAtBottom(TDepthList& list);
+
+// An object like this one that is in no list.
+std::unique_ptr<TDepthObj> Copied(const TDepthObj& object);
+// Copies of the selected objects, topmost first.
+std::vector<std::unique_ptr<TDepthObj>> CopiedSelection(const TDepthList& list);
+
+// How far copies lie from what they are copies of, in pixels of the map.
+inline constexpr MapWay kCopyOffset{10, 10};
+// Puts copies of the selected objects on top, beside where they are, and selects the copies.
+void DuplicateSelection(TDepthList& list);
+// Puts the objects, topmost first, on top and selects them. Where the same shape lies already, all
+// of them lie beside it.
+void PasteObjects(TDepthList& list, std::vector<std::unique_ptr<TDepthObj>> objects);
 
 }  // namespace plenovia

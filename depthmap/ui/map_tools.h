@@ -23,9 +23,15 @@ constexpr bool IsMapViewCommand(int id) {
 constexpr bool IsMapMakingCommand(int id) {
   return id == kTextTool || id == kCmMapSteps;
 }
+// What is done with selected shapes.
+constexpr bool IsShapeCommand(int id) {
+  return (id >= kShapesToTop && id <= kSpreadDown) ||
+         (id >= kMoveObjectUp && id <= kDeleteObject) || id == kCmCut || id == kCmCopy ||
+         id == kCmDuplicate;
+}
 constexpr bool IsMapCommand(int id) {
-  return IsMapTool(id) || (id >= kSetLevel && id <= kDeleteObject) ||
-         (id >= kCmUndo && id <= kCmSelectAll) || IsMapViewCommand(id) || IsMapMakingCommand(id);
+  return IsMapTool(id) || IsShapeCommand(id) || IsMapViewCommand(id) || IsMapMakingCommand(id) ||
+         id == kSetLevel || id == kCmUndo || id == kCmRedo || id == kCmSelectAll;
 }
 // What a drawing tool draws.
 constexpr DepthObjKind KindOfTool(int id) {

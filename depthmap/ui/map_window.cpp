@@ -21,6 +21,7 @@
 #include "depthmap/ui/map_keys.h"
 #include "depthmap/ui/map_making.h"
 #include "depthmap/ui/map_words.h"
+#include "depthmap/ui/shape_commands.h"
 #include "platform/file_io.h"
 #include "platform/ui/message_box.h"
 #include "platform/ui/private_message.h"
@@ -202,7 +203,23 @@ bool TMapWindow::CommandEnabled(int command) const {
   if (command == kCmMapSteps) {
     return list_->Selected() != nullptr && CanMakeSteps(*list_->Selected());
   }
+  if (IsShapeCommand(command)) return HasSelectedShape();
   return HandlesCommand(command);
+}
+
+bool TMapWindow::HasSelectedShape() const {
+  const std::size_t selected = list_->Selection().size();
+  return selected > 1 || (selected == 1 && list_->Selected() != list_->Background());
+}
+
+QList<QByteArray> TMapWindow::PasteFormats() const {
+  return ShapeFormats();
+}
+
+bool TMapWindow::Paste(const QByteArray& bytes) {
+  const bool pasted = PasteShapes(*list_, bytes);
+  StateMayHaveChanged();
+  return pasted;
 }
 
 QString TMapWindow::CommandSubject(int command) const {
@@ -214,6 +231,7 @@ QString TMapWindow::CommandSubject(int command) const {
 
 void TMapWindow::RunCommand(int command) {
   const QPoint middle = QRect({}, ClientSize()).center();
+  const QPointer<TMapWindow> alive(this);  // a dialog may outlive the window
   switch (command) {
     case kCmZoomIn:
       return Zoom(1, middle);
@@ -229,20 +247,10 @@ void TMapWindow::RunCommand(int command) {
       CmSetLevel();
       return;
     case kTextTool:
-    case kCmMapSteps: {
-      const QPointer<TMapWindow> alive(this);
-      command == kTextTool ? CmText() : AskForSteps(window(), list_);
-      if (!alive) return;
+      CmText();
       break;
-    }
-    case kMoveObjectUp:
-      list_->CmMoveUp();
-      break;
-    case kMoveObjectDown:
-      list_->CmMoveDown();
-      break;
-    case kDeleteObject:
-      list_->CmDelete();
+    case kCmMapSteps:
+      AskForSteps(window(), list_);
       break;
     case kCmSelectAll:
       list_->SelectAll(ObjectsAboveBackground(*list_));
@@ -254,9 +262,10 @@ void TMapWindow::RunCommand(int command) {
       list_->Redo();
       break;
     default:
-      SetTool(command);
+      if (IsShapeCommand(command)) RunShapeCommand(list_, command, window());
+      if (alive) SetTool(command);
   }
-  StateMayHaveChanged();
+  if (alive) StateMayHaveChanged();
 }
 
 void TMapWindow::CmSetLevel() {
@@ -410,6 +419,7 @@ void TMapWindow::MouseMoved(MouseKeys keys, QPoint point) {
   }
   gesture_->MoveTo(ToDepthPoint(point), ToGestureKeys(keys.modifiers));
   SetLastPoint(point.x(), point.y());
+  Q_EMIT Told(PlaceWords(*list_, ToDepthPoint(point), look_.scale));
   ShowFrame();
   StateMayHaveChanged();
 }
@@ -438,6 +448,10 @@ bool TMapWindow::KeyPressed(const QKeyEvent& event) {
   if (event.key() == Qt::Key_Escape) {
     used = EndGesture(true);
     EndLeftTrack();
+  } else if (rubber_.IsPolygon() &&
+             (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)) {
+    FinishPolygon();
+    used = true;
   } else if (!gesture_) {
     used = PressMapKey(*list_, event);
   }
@@ -520,35 +534,48 @@ void TMapWindow::OnLButtonDblClk(MouseKeys, QPoint point) {
 }
 
 void TMapWindow::AddShape() {
-  AddDrawn(std::make_unique<TDepthObj>(nullptr, ToDepthRect(Tracking()), KindOfTool(tool_),
-                                       list_->CurrentLevel()));
-  list_->Select(list_->Head());
+  auto shape = std::make_unique<TDepthObj>(nullptr, ToDepthRect(Tracking()), KindOfTool(tool_),
+                                           list_->CurrentLevel());
+  if (AddDrawn(std::move(shape))) list_->Select(list_->Head());
 }
 
-void TMapWindow::AddDrawn(std::unique_ptr<TDepthObj> object) {
+bool TMapWindow::AddDrawn(std::unique_ptr<TDepthObj> object) {
+  if (IsDegenerate(*object)) {
+    Q_EMIT Told(tr("A shape that covers no dot is not made."));
+    return false;
+  }
   const bool seen = StandsOut(*object, *list_);
   list_->AddObject(std::move(object));
   Q_EMIT Told(seen ? QString() : HiddenWords(list_->CurrentLevel()));
+  return true;
 }
 
 void TMapWindow::AddVertex(QPoint point) {
-  InvalidateRubber();
-  if (rubber_.IsPolygon()) {
-    rubber_.AddVertex(ToDepthPoint(point));
-  } else {
-    rubber_.Start(PolygonObj, ToDepthRect(Tracking()));
+  if (rubber_.IsPolygon() && rubber_.IsClosedBy(ToDepthPoint(point), PickTolerance(look_.scale))) {
+    FinishPolygon();
+    return;
   }
   InvalidateRubber();
+  if (!rubber_.IsPolygon()) {
+    rubber_.Start(PolygonObj, ToDepthRect(Tracking()));
+  } else if (rubber_.Vertices().size() < TDepthObj::kMaxVertices) {
+    rubber_.AddVertex(ToDepthPoint(point));
+  } else {
+    FinishPolygon();
+    Q_EMIT Told(tr("A polygon has at most 64 points."));
+    return;
+  }
+  InvalidateRubber();
+  Q_EMIT Told(DrawingWords(rubber_, list_->CurrentLevel()));
 }
 
 void TMapWindow::FinishPolygon() {
   auto polygon =
       std::make_unique<TDepthObj>(nullptr, DepthRect{}, PolygonObj, list_->CurrentLevel());
   polygon->SetPoints(rubber_.Vertices());
-  AddDrawn(std::move(polygon));
   InvalidateRubber();
   rubber_.Stop();
-  list_->Invalidate(list_->Head());
+  AddDrawn(std::move(polygon));
   StateMayHaveChanged();
 }
 

@@ -85,6 +85,8 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   bool CommandEnabled(int command) const override;
   void RunCommand(int command) override;
   QString CommandSubject(int command) const override;
+  QList<QByteArray> PasteFormats() const override;
+  bool Paste(const QByteArray& bytes) override;
   bool NeedsSaving() const override { return !IsSaved(); }
   bool CanSave() const override { return true; }
   Result<void> Save(const QString& path) override;
@@ -126,14 +128,16 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   void InvalidateRubber();
   void StateMayHaveChanged();
 
+  bool HasSelectedShape() const;
   void PressOnObjects(MouseKeys keys, QPoint point);
   void ShowFrame();
   void ShowHandleCursor(QPoint point);
   // Ends what the mouse has begun, as it is or as if it had not been begun. False when there is
   // nothing.
   bool EndGesture(bool cancelled);
+  // False, with a word to the user, when the shape would cover nothing.
+  bool AddDrawn(std::unique_ptr<TDepthObj> object);
   void AddShape();
-  void AddDrawn(std::unique_ptr<TDepthObj> object);
   void AddVertex(QPoint point);
   void FinishPolygon();
   void CmSetLevel();

@@ -2,7 +2,9 @@
 // commands.
 #pragma once
 
+#include <QByteArray>
 #include <QCloseEvent>
+#include <QList>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPointer>
@@ -59,6 +61,11 @@ class Document : public QMdiSubWindow {
   // What the command would be about just now, which its text in the menu then names; empty when
   // there is nothing to name.
   virtual QString CommandSubject(int /*command*/) const { return {}; }
+
+  // In what formats of the clipboard it takes something into itself, the best first. Paste() is
+  // false when the bytes hold nothing for it.
+  virtual QList<QByteArray> PasteFormats() const { return {}; }
+  virtual bool Paste(const QByteArray& /*bytes*/) { return false; }
 
   // The file that it was read from or saved into; empty when there is none.
   const QString& File() const { return file_; }

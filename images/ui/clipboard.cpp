@@ -85,8 +85,12 @@ ClipboardPictures::ClipboardPictures(QObject* parent) : QObject(parent) {
 
 void ClipboardPictures::Look() {
   formatsRequest_.reset();
+  offered_.clear();
   if (!MustBeAsked()) {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    for (const QString& format : data != nullptr ? data->formats() : QStringList()) {
+      offered_ << format.toLatin1();
+    }
     SetHasPicture(data != nullptr && data->hasImage());
     return;
   }
@@ -94,8 +98,8 @@ void ClipboardPictures::Look() {
   formatsRequest_ = std::make_unique<XSelectionRequest>(
       "TARGETS", std::chrono::milliseconds(0), [this](const std::optional<QByteArray>& targets) {
         formatsRequest_.reset();
-        format_ =
-            BestFormat(targets ? XSelectionRequest::FormatNames(*targets) : QList<QByteArray>());
+        if (targets) offered_ = XSelectionRequest::FormatNames(*targets);
+        format_ = BestFormat(offered_);
         SetHasPicture(!format_.isEmpty());
       });
 }
@@ -116,6 +120,27 @@ void ClipboardPictures::ReadPicture(Take take, std::chrono::milliseconds patienc
       [this, format = format_, take = std::move(take)](const std::optional<QByteArray>& bytes) {
         pictureRequest_.reset();
         take(bytes ? PictureFrom(format, *bytes) : NoAnswer());
+      });
+}
+
+QByteArray ClipboardPictures::FirstOffered(const QList<QByteArray>& formats) const {
+  for (const QByteArray& format : formats) {
+    if (offered_.contains(format)) return format;
+  }
+  return {};
+}
+
+void ClipboardPictures::ReadBytes(const QByteArray& format, TakeBytes take,
+                                  std::chrono::milliseconds patience) {
+  if (!MustBeAsked()) {
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    return take(data != nullptr ? std::optional(data->data(QString::fromLatin1(format)))
+                                : std::nullopt);
+  }
+  bytesRequest_ = std::make_unique<XSelectionRequest>(
+      format, patience, [this, take = std::move(take)](std::optional<QByteArray> bytes) {
+        bytesRequest_.reset();
+        take(std::move(bytes));
       });
 }
 

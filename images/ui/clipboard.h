@@ -1,4 +1,5 @@
-// Pictures to and from other programs through the clipboard.
+// Pictures, and what documents take into themselves, to and from other programs through the
+// clipboard.
 #pragma once
 
 #include <QByteArray>
@@ -8,6 +9,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "platform/indexed_image.h"
 #include "platform/result.h"
@@ -27,6 +29,7 @@ class ClipboardPictures : public QObject {
 
  public:
   using Take = std::function<void(Result<IndexedImage>)>;
+  static constexpr std::chrono::seconds kPatience{5};
 
   explicit ClipboardPictures(QObject* parent = nullptr);
 
@@ -35,7 +38,14 @@ class ClipboardPictures : public QObject {
   // Hands over the picture, as PictureFromImage() makes it, at once or when its owner has sent it;
   // an error when there is none, when its bytes are no picture, when it is too large, and when the
   // owner is silent for `patience`. A later call takes the place of one that still waits.
-  void ReadPicture(Take take, std::chrono::milliseconds patience = std::chrono::seconds(5));
+  void ReadPicture(Take take, std::chrono::milliseconds patience = kPatience);
+
+  // The first of these formats in which the contents are offered, as far as is known; else empty.
+  QByteArray FirstOffered(const QList<QByteArray>& formats) const;
+  // The bytes of that format in the same way.
+  using TakeBytes = std::function<void(std::optional<QByteArray>)>;
+  void ReadBytes(const QByteArray& format, TakeBytes take,
+                 std::chrono::milliseconds patience = kPatience);
 
  Q_SIGNALS:
   // HasPicture() may have changed.
@@ -46,9 +56,11 @@ class ClipboardPictures : public QObject {
   void SetHasPicture(bool has);
 
   bool hasPicture_ = false;
+  QList<QByteArray> offered_;
   QByteArray format_;  // in which another program is asked for its picture
   std::unique_ptr<XSelectionRequest> formatsRequest_;
   std::unique_ptr<XSelectionRequest> pictureRequest_;
+  std::unique_ptr<XSelectionRequest> bytesRequest_;
 };
 
 }  // namespace plenovia
