@@ -8,6 +8,7 @@
 #include "app/info_commands.h"
 #include "app/make_again.h"
 #include "app/map_commands.h"
+#include "app/object_dock.h"
 #include "app/save_commands.h"
 #include "app/sirds_commands.h"
 #include "app/view_commands.h"
@@ -90,6 +91,8 @@ constexpr CommandRow kCommands[] = {
     {kShapes, 0, nullptr, nullptr, nullptr, nullptr},
     {kShapes, kSpreadAcross, T("E&qual Gaps Across"), T("Make the gaps between shapes equal from left to right"), nullptr, nullptr},
     {kShapes, kSpreadDown, T("Equal Gaps Dow&n"), T("Make the gaps between shapes equal from top to bottom"), nullptr, nullptr},
+    {kShapes, 0, nullptr, nullptr, nullptr, nullptr},
+    {kShapes, kObjectList, T("Ob&ject List"), T("Show the shapes of the map in their order"), &CmObjectList, nullptr, "F4"},
     {kMath, kCmVersion, T("&Version"), T("Get Math Library version"), &CmVersion, nullptr},
     {kMath, kCmFormula, T("&Formula..."), T("Make a stereogram of a formula z = f(x, y)"), &CmFormula, nullptr},
     {kMath, 0, nullptr, nullptr, nullptr, nullptr},

@@ -19,6 +19,7 @@
 #include "app/help_window.h"
 #include "app/level_bar.h"
 #include "app/live_host.h"
+#include "app/object_dock.h"
 #include "app/pattern_face.h"
 #include "app/recent_menu.h"
 #include "app/settings_path.h"
@@ -113,6 +114,7 @@ void TPlenoviaWnd::InsertBars(int location) {
   toolsPalette_->setWindowTitle(tr("Tools"));
   FillToolsPalette(*toolsPalette_, action);
   levelBar_ = new LevelBar(this, *desk_, *busy_, *status_);
+  addDockWidget(Qt::RightDockWidgetArea, new ObjectDock(this, *desk_));
   PlaceMainBar(location);
   setStatusBar(status_);
   connect(desk_, &Desk::ToolChanged, toolsPalette_, &ButtonBar::PressButton);

@@ -63,10 +63,13 @@ void PutSelectionOnTop(TDepthList& list) {
 }
 
 void PutSelectionAtBottom(TDepthList& list) {
+  PutSelectionAbove(list, list.Background());
+}
+
+void PutSelectionAbove(TDepthList& list, const TDepthObj* below) {
   const MapEdit edit(list, EditKind::kRestack);
-  for (const TDepthObj* object : list.SelectionFromTop()) {
-    list.PutAbove(object, list.Background());
-  }
+  while (below != list.Background() && below->IsSelected()) below = TDepthList::Below(*below);
+  for (const TDepthObj* object : list.SelectionFromTop()) list.PutAbove(object, below);
 }
 
 std::unique_ptr<TDepthObj> Copied(const TDepthObj& object) {

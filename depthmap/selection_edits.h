@@ -32,7 +32,9 @@ class ShiftedSelection {
 // Moves the selected objects, the background box too.
 void ShiftSelection(TDepthList& list, const MapWay& way);
 
-// Above or below all others; among themselves they keep their order.
+// Right above this object, or the next one below it that is not selected; above or below all
+// others. Among themselves they keep their order.
+void PutSelectionAbove(TDepthList& list, const TDepthObj* below);
 void PutSelectionOnTop(TDepthList& list);
 void PutSelectionAtBottom(TDepthList& list);
 

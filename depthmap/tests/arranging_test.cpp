@@ -165,6 +165,10 @@ TEST_F(Arranging, OrderIsKeptOnTheWayToTheTopAndTheBottom) {
   list.Undo();
   list.Undo();
   EXPECT_EQ(Stack(), "5 4* 3 2* 1 0 ");
+  PutSelectionAbove(list, all[4]);
+  EXPECT_EQ(Stack(), "5 3 4* 2* 1 0 ");
+  PutSelectionAbove(list, all[3]);
+  EXPECT_EQ(Stack(), "5 3 4* 2* 1 0 ") << "it lies there already";
 }
 
 TEST_F(Arranging, CopiesLieOnTopBesideTheirShapes) {

@@ -73,6 +73,7 @@ void TMapWindow::SetList(std::shared_ptr<TDepthList> list) {
   rubber_.Stop();
   knownSize_ = {list_->GetWidth(), list_->GetHeight()};
   InvalidateAll();
+  Q_EMIT MapChanged();
   StateMayHaveChanged();
 }
 
@@ -315,7 +316,14 @@ void TMapWindow::EvMDIActivate(bool active) {
   SetTool(tool_);
 }
 
+void TMapWindow::Edit(const std::function<void(TDepthList&)>& change) {
+  change(*list_);
+  StateMayHaveChanged();
+}
+
 void TMapWindow::StateMayHaveChanged() {
+  const bool objectsChanged =
+      !changed_.empty() || std::exchange(knownEdition_, list_->Edition()) != list_->Edition();
   RepaintChanged();
   if (knownSize_ != std::pair(list_->GetWidth(), list_->GetHeight())) {
     knownSize_ = {list_->GetWidth(), list_->GetHeight()};
@@ -323,6 +331,7 @@ void TMapWindow::StateMayHaveChanged() {
     SetScrollExtent(extent_);
     InvalidateAll();
   }
+  if (objectsChanged) Q_EMIT MapChanged();
   const bool changed = knownSaved_ != IsSaved() || knownSelected_ != list_->Selected() ||
                        knownUndo_ != list_->UndoKind() || knownRedo_ != list_->RedoKind() ||
                        knownLevels_ != std::pair(LevelAtHand(), list_->CurrentLevel());

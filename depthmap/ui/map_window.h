@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -94,7 +95,12 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   DocumentStatus Status() const override;
   DocumentDepth Depth() const override { return {nullptr, 1.0, Levels()}; }
 
+  // Does something with the map, for windows beside this one.
+  void Edit(const std::function<void(TDepthList&)>& change);
+
  Q_SIGNALS:
+  // The objects, their order or the selection may have changed.
+  void MapChanged();
   // Something for the status bar to show.
   void Told(const QString& text);
 
@@ -155,6 +161,7 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   int tool_ = kSelectTool;
   bool knownSaved_ = false;
   std::pair<std::int64_t, std::int64_t> knownSize_;
+  std::uint64_t knownEdition_ = 0;
   std::pair<std::int32_t, std::int32_t> knownLevels_;  // at hand, of the next shape
   std::optional<EditKind> knownUndo_;
   std::optional<EditKind> knownRedo_;

@@ -71,6 +71,7 @@ enum Command {
   kAlignBottom = 1283,
   kSpreadAcross = 1284,
   kSpreadDown = 1285,
+  kObjectList = 1286,
   kCmExit = 24310,
   kCmNew = 24331,
   kCmOpen = 24332,
