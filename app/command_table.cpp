@@ -92,7 +92,7 @@ constexpr CommandRow kCommands[] = {
     {kShapes, kSpreadAcross, T("E&qual Gaps Across"), T("Make the gaps between shapes equal from left to right"), nullptr, nullptr},
     {kShapes, kSpreadDown, T("Equal Gaps Dow&n"), T("Make the gaps between shapes equal from top to bottom"), nullptr, nullptr},
     {kShapes, 0, nullptr, nullptr, nullptr, nullptr},
-    {kShapes, kObjectList, T("Ob&ject List"), T("Show the shapes of the map in their order"), &CmObjectList, nullptr, "F4"},
+    {kShapes, kObjectList, T("Ob&ject List"), T("Show the shapes of the map in their order"), &CmObjectList, &IsIdle, "F4"},
     {kMath, kCmVersion, T("&Version"), T("Get Math Library version"), &CmVersion, nullptr},
     {kMath, kCmFormula, T("&Formula..."), T("Make a stereogram of a formula z = f(x, y)"), &CmFormula, nullptr},
     {kMath, 0, nullptr, nullptr, nullptr, nullptr},

@@ -127,8 +127,8 @@ TEST_F(FrameTest, RelocatingGoesRoundTopLeftRight) {
 TEST_F(FrameTest, FiguresFollowTheVersionInTheirMenu) {
   Start();
   const QList<QAction*> tops = Frame().menuBar()->actions();
-  ASSERT_EQ(tops.size(), 6);
-  const QList<QAction*> items = tops[3]->menu()->actions();
+  ASSERT_EQ(tops.size(), 7);
+  const QList<QAction*> items = tops[4]->menu()->actions();
   ASSERT_EQ(items.size(), 33);
   EXPECT_EQ(items[0]->text(), QStringLiteral("&Version"));
   EXPECT_EQ(items[1]->text(), QStringLiteral("&Formula..."));
