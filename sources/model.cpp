@@ -16,7 +16,6 @@ namespace {
 
 constexpr double kMargin = 0.04;   // of each side
 constexpr double kFarthest = 0.1;  // of the highest level
-constexpr double kLargest = 1e15;  // coordinate whose squares are safe
 constexpr double kNearest = 1e-3;  // of the model's size, between the viewer and the model
 
 struct Point {
@@ -42,7 +41,7 @@ struct Rotation {
     up = {st * s, ct, -st * c};
     towards = {-ct * s, st, ct * c};
   }
-  Point operator()(const Corner& p) const {
+  Point operator()(const Point& p) const {
     const auto dot = [&](const Point& row) { return row.x * p.x + row.y * p.y + row.z * p.z; };
     return {dot(right), dot(up), dot(towards)};
   }
@@ -72,8 +71,15 @@ class Camera {
  public:
   Camera(const Mesh& mesh, const ModelView& view, int width, int height)
       : rotation_(view), width_(width), height_(height) {
+    Box x, y, z;
     for (const Corner& corner : mesh.corners) {
-      const Point p = rotation_(corner);
+      x.Include(corner.x);
+      y.Include(corner.y);
+      z.Include(corner.z);
+    }
+    middle_ = {x.Middle(), y.Middle(), z.Middle()};
+    for (const Corner& corner : mesh.corners) {
+      const Point p = Turned(corner);
       x_.Include(p.x);
       y_.Include(p.y);
       z_.Include(p.z);
@@ -87,9 +93,10 @@ class Camera {
       const double across = roomAcross / 2 / scale_;
       const double down = roomDown / 2 / scale_;
       const double size = x_.Length() + y_.Length() + z_.Length();
+      if (size == 0) scale_ = 0;
       eye_ = z_.high + kNearest * size;
       for (const Corner& corner : mesh.corners) {
-        const Point p = rotation_(corner);
+        const Point p = Turned(corner);
         eye_ = std::max({eye_, p.z + std::abs(p.x - x_.Middle()) / across,
                          p.z + std::abs(p.y - y_.Middle()) / down});
       }
@@ -103,13 +110,10 @@ class Camera {
   }
 
   // Whether there is anything to see.
-  bool Works() const {
-    return std::isfinite(scale_) && scale_ > 0 && std::isfinite(z_.Length()) &&
-           x_.Length() < kLargest && y_.Length() < kLargest && z_.Length() < kLargest;
-  }
+  bool Works() const { return std::isfinite(scale_) && scale_ > 0; }
 
   Seen operator()(const Corner& corner) const {
-    const Point p = rotation_(corner);
+    const Point p = Turned(corner);
     const double zoom = perspective_ ? scale_ / (eye_ - p.z) : scale_;
     return {static_cast<float>(width_ / 2.0 + (p.x - x_.Middle()) * zoom),
             static_cast<float>(height_ / 2.0 - (p.y - y_.Middle()) * zoom),
@@ -125,9 +129,14 @@ class Camera {
   }
 
  private:
+  // Turned about the middle of the model, so that no place is too far away to be exact.
+  Point Turned(const Corner& p) const {
+    return rotation_({p.x - middle_.x, p.y - middle_.y, p.z - middle_.z});
+  }
   double Depth() const { return z_.Length() > 0 ? z_.Length() : 1; }
 
   Rotation rotation_;
+  Point middle_{};
   int width_;
   int height_;
   Box x_, y_, z_;

@@ -191,6 +191,9 @@ TEST(Model, NonsenseIsRefused) {
   }
   const Mesh point{{{1, 1, 1}, {1, 1, 1}, {1, 1, 1}}, {{0, 1, 2}}};
   EXPECT_FALSE(DrawModel(point, {}, 30, 30, 1).has_value());
+  // Far away a model still has its size.
+  const Mesh far{{{3e38F, 1, 1}, {3e38F, 2, 1}, {3e38F, 2, 2}}, {{0, 1, 2}}};
+  EXPECT_TRUE(DrawModel(far, {90, 10, 60}, 30, 30, 1).has_value());
   EXPECT_FALSE(DrawModel(Ring(5, 4), {0, 0, 179}, 30, 30, 1).has_value());
   EXPECT_FALSE(DrawModel(Ring(5, 4), {std::nan(""), 0, 0}, 30, 30, 1).has_value());
 }
