@@ -1,6 +1,7 @@
 // The document windows: which there are, which is the active one, how they come and go.
 #pragma once
 
+#include <QList>
 #include <QMdiArea>
 #include <QObject>
 #include <QPointer>
@@ -23,7 +24,9 @@ class Desk : public QObject {
   // Shows a new document window, makes it the active one and follows its state.
   void Adopt(Document& window);
 
-  // Asks every document window, each as the active one, until one refuses to close.
+  // Whether all document windows may close. A single one with work to save asks its own question as
+  // the active one; of several a list asks which ones to save. False when the user cancels, or when
+  // one could not be saved.
   bool AllMayClose();
   // Closes them without asking.
   void CloseDocuments();
@@ -42,6 +45,11 @@ class Desk : public QObject {
   void ToolChanged(int tool);
 
  private:
+  using Documents = QList<QPointer<Document>>;
+  // Those with work to save that are not among `settled`.
+  Documents Unsaved(const Documents& settled) const;
+  bool AskAboutAll(const Documents& unsaved);
+
   QMdiArea* area_;
   QPointer<TColorWnd> colourTable_;
   int cascaded_ = 0;

@@ -79,7 +79,7 @@ void MakeFromLevels(CommandContext& context, Document& map,
                     const std::shared_ptr<const LevelGrid>& levels) {
   context.status.SetMessage(QString());
   context.status.SetImageText(QString());
-  MakeInNewWindow(context, Commands::tr("untitled"), ProposedStereogramFile(map),
+  MakeInNewWindow(context, StereogramTitle(map), ProposedStereogramFile(map),
                   QSize(levels->GridWidth(), levels->GridHeight()), [&](TSirdsWnd& window) {
                     window.SetSource({&map, map.File()});
                     return window.MakeSirdFromDepthMap(levels);

@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <fstream>
 #include <iterator>
 
@@ -209,6 +210,39 @@ TEST_F(Files, SavingOnCloseSavesTheWindowThatCloses) {
   first->close();
   TGraphIO codec;
   EXPECT_EQ(codec.Read_File(folder_ / "first.bmp")->width(), 11);
+}
+
+TEST_F(Files, OneQuestionForAllUnsavedWindows) {
+  TSirdsWnd* first = AddPicture(NoisePicture(11, 7, 8));
+  TSirdsWnd* second = AddPicture(NoisePicture(20, 20, 8));
+  AddPicture(NoisePicture(9, 9, 8));
+  first->SetSaved(false);
+  second->SetSaved(false);
+  DialogAnswers answers;
+  answers.Add([](QDialog& dialog) {
+    const auto* list = dialog.findChild<QListWidget*>();
+    ASSERT_EQ(list->count(), 2);
+    EXPECT_EQ(list->item(1)->text(), QStringLiteral("picture 2"));
+    dialog.reject();
+  });
+  EXPECT_FALSE(Stop()) << "Cancel keeps everything";
+  EXPECT_EQ(Frame().Area()->subWindowList().size(), 3);
+
+  // What cannot be saved keeps everything too.
+  answers.Add([](QDialog& dialog) { dialog.accept(); });
+  answers.AddFile(Path("one.png"));
+  answers.AddFile(QString());
+  EXPECT_FALSE(Stop());
+  EXPECT_TRUE(first->IsSaved());
+
+  first->SetSaved(false);
+  answers.Add([](QDialog& dialog) {
+    dialog.findChild<QListWidget*>()->item(0)->setCheckState(Qt::Unchecked);
+    dialog.accept();
+  });
+  answers.AddFile(Path("two.png"));
+  EXPECT_TRUE(Stop());
+  EXPECT_EQ(TGraphIO().Read_File(folder_ / "two.png")->width(), 20);
 }
 
 class Dots : public Files, public testing::WithParamInterface<int> {};

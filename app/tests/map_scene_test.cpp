@@ -167,7 +167,7 @@ TEST_F(Scene, SavedMapOpensWithTheSameObjects) {
   TMapWindow* opened = ActiveMap();
   ASSERT_TRUE(opened != nullptr && opened != window);
   EXPECT_EQ(Objects(*opened), Objects(*window));
-  EXPECT_EQ(opened->GetTitle(), QStringLiteral("my scene.rds"));
+  EXPECT_EQ(opened->GetTitle(), QStringLiteral("my scene.rds 2"));
   EXPECT_EQ(opened->ClientSize(), window->ClientSize());
   EXPECT_TRUE(opened->IsSaved());
 }

@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QEvent>
+#include <QListWidget>
 #include <QTimer>
 #include <QtTest/QTest>
 #include <functional>
@@ -197,18 +198,37 @@ TEST_F(Runs, CancelInTheCloseQuestionKeepsThePictureAndTheRun) {
   }
 }
 
+TEST_F(Runs, ResultsAreNamedApart) {
+  AddPicture(NoisePicture(100, 100, 64));
+  AddPicture(NoisePicture(100, 100, 64));
+  EXPECT_EQ(ActivePicture()->GetTitle(), QStringLiteral("picture 2"));
+  CmFileNew(Frame().Context());
+  Document* map = Frame().GetActiveChild();
+  std::vector<QString> titles;
+  for (int n = 0; n < 3; ++n) {
+    Frame().Area()->setActiveSubWindow(map);
+    Run(kCmMakeSirds);
+    Settle();
+    titles.push_back(ActivePicture()->GetTitle());
+    if (n == 1) ActivePicture()->CloseUnasked();
+  }
+  EXPECT_EQ(titles, (std::vector<QString>{QStringLiteral("untitled{sird}"),
+                                          QStringLiteral("untitled{sird} 2"),
+                                          QStringLiteral("untitled{sird} 2")}));
+}
+
 TEST_F(Runs, TheFrameAsksOnceForThePictureThatIsDrawnOver) {
   Frame().Settings().useBmp = 1;
   const auto old = NoisePicture(1200, 1200, 64);
   AddPicture(old)->SetSaved(false);
   const QString file = PathToQString(folder_.path() / "old.png");
-  DialogAnswers answers;
-  answers.AddMessage(QStringLiteral("Save\n picture\n before closing?"), QStringLiteral("Confirm"),
-                     QMessageBox::Yes);
-  answers.AddFile(file);
   AddPicture(NoisePicture(50, 50, 64))->SetSaved(false);
-  answers.AddMessage(QStringLiteral("Save\n picture\n before closing?"), QStringLiteral("Confirm"),
-                     QMessageBox::No);
+  DialogAnswers answers;
+  answers.Add([](QDialog& dialog) {
+    dialog.findChild<QListWidget*>()->item(1)->setCheckState(Qt::Unchecked);
+    dialog.accept();
+  });
+  answers.AddFile(file);
   Frame().Area()->activatePreviousSubWindow();
   RunAnd(kCmFirstFigure, [&] { EXPECT_FALSE(Frame().close()); });
   EXPECT_FALSE(Frame().isVisible());

@@ -1,5 +1,6 @@
 #include "documents/ui/document.h"
 
+#include <QSet>
 #include <algorithm>
 
 #include "platform/ui/message_box.h"
@@ -33,9 +34,21 @@ Document::~Document() {
   disconnect(activation_);
 }
 
+void Document::SetDistinctTitle(const QString& title) {
+  QSet<QString> others;
+  for (const QMdiSubWindow* window : mdiArea()->subWindowList()) {
+    if (window != this && !window->isHidden()) others << window->windowTitle();
+  }
+  QString distinct = title;
+  for (int n = 2; others.contains(distinct); ++n) {
+    distinct = QStringLiteral("%1 %2").arg(title).arg(n);
+  }
+  setWindowTitle(distinct);
+}
+
 void Document::SetFile(const QString& path) {
   file_ = path;
-  setWindowTitle(BaseNameTitle(path));
+  SetDistinctTitle(BaseNameTitle(path));
 }
 
 QString Document::ProposedFile() const {

@@ -69,7 +69,9 @@ class Document : public QMdiSubWindow {
 
   // The file that it was read from or saved into; empty when there is none.
   const QString& File() const { return file_; }
-  // The caption becomes the file's name in lower case.
+  // The caption becomes the title, with a number behind it where another window has it.
+  void SetDistinctTitle(const QString& title);
+  // The caption becomes the file's name in lower case, as SetDistinctTitle() does it.
   void SetFile(const QString& path);
   // What it may be saved as: its own file, or what was proposed, or its title.
   QString ProposedFile() const;

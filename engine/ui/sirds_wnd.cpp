@@ -182,6 +182,10 @@ void TSirdsWnd::RunCommand(int command) {
   }
 }
 
+QString StereogramTitle(const Document& source) {
+  return source.GetTitle() + QStringLiteral("{sird}");
+}
+
 std::string FileNameOf(const Document& document) {
   return ToPath(document.File()).filename().string();
 }
@@ -206,7 +210,7 @@ Result<TSirdResult> MakeSirdFromBitmap(Document& source, const TSirdPatt* patter
   result.run.source = {
       RecipeKind::kPicture, FileNameOf(source), {}, static_cast<std::int32_t>(depth.zoom * 100)};
   result.run.patternFile = PatternFileOf(patterns);
-  result.title = source.GetTitle() + QStringLiteral("{sird}");
+  result.title = StereogramTitle(source);
   FrameMonitor monitor(source.Frame());
   monitor.BeepOnStop();
   monitor.EndWhen([&window] { return !window || window->isHidden(); });

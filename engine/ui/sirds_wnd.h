@@ -94,6 +94,9 @@ class TSirdsWnd : public TPictureWnd {
   int drawings_ = 0;  // runs that have drawn here, or closed the window
 };
 
+// What a stereogram of the document is called.
+QString StereogramTitle(const Document& source);
+
 // The name of the document's file; empty when it has none.
 std::string FileNameOf(const Document& document);
 
