@@ -1,12 +1,9 @@
 #include "depthmap/ui/map_window.h"
 
 #include <QAbstractScrollArea>
-#include <QImage>
 #include <QPointer>
-#include <algorithm>
 #include <cstddef>
 #include <utility>
-#include <vector>
 
 #include "depthmap/depth_map_file.h"
 #include "depthmap/handles.h"
@@ -32,9 +29,6 @@ namespace plenovia {
 
 namespace {
 
-constexpr std::size_t kMostAreas = 200;        // repainted one by one
-constexpr std::int64_t kGreatestSide = 32767;  // of a window, in pixels
-
 DepthPoint ToDepthPoint(const QPoint& point) {
   return {point.x(), point.y()};
 }
@@ -47,7 +41,7 @@ DepthRect ToDepthRect(const TrackRect& track) {
 
 TMapWindow::TMapWindow(QMdiArea* client, const QString& title, int width, int height,
                        QWidget* frame)
-    : TMouseWnd(client, title, frame) {
+    : TMapView(client, title, frame) {
   SetWindowKind(kDepthMapWindow);
   setWindowIcon(NamedIcon(QStringLiteral("i3")));
   SetList(std::make_shared<TDepthList>(width, height));
@@ -59,20 +53,11 @@ TMapWindow::TMapWindow(QMdiArea* client, const QString& title, int width, int he
   ResizeToMap();
 }
 
-TMapWindow::~TMapWindow() {
-  list_->SetOwner(nullptr);
-}
-
 void TMapWindow::SetList(std::shared_ptr<TDepthList> list) {
-  if (list_) list_->SetOwner(nullptr);
   gesture_.reset();
-  picture_.reset();
-  list_ = std::move(list);
-  list_->SetOwner(this);
+  ShowList(std::move(list));
   list_->KeepHistory();
-  rubber_.Stop();
   knownSize_ = {list_->GetWidth(), list_->GetHeight()};
-  InvalidateAll();
   Q_EMIT MapChanged();
   StateMayHaveChanged();
 }
@@ -137,45 +122,6 @@ void TMapWindow::SetTool(int id) {
   tool_ = id;
   SetCursorId(id);
   Q_EMIT ToolChanged(id);
-}
-
-void TMapWindow::ResizeToMap() {
-  look_.scale = MapScale();
-  UpdateExtent();
-  SetClientSize(extent_);
-  SetScrollExtent(extent_);
-}
-
-void TMapWindow::UpdateExtent() {
-  const auto side = [this](std::int64_t size) {
-    const std::int64_t shown = look_.scale.ShownEdge(std::min(size, kGreatestSide));
-    return static_cast<int>(std::max<std::int64_t>(shown, 0));
-  };
-  extent_ = {side(list_->GetWidth()), side(list_->GetHeight())};
-}
-
-void TMapWindow::SetLook(const MapLook& look, const QPoint& stays) {
-  const QPointF place = QPointF(stays + ScrollPosition()) / look_.scale.Factor();
-  look_ = look;
-  UpdateExtent();
-  SetScrollExtent(extent_);
-  ScrollTo((place * look_.scale.Factor()).toPoint() - stays);
-  InvalidateAll();
-  Q_EMIT StateChanged();
-}
-
-void TMapWindow::Zoom(int steps, const QPoint& stays) {
-  MapLook look = look_;
-  for (; steps > 0; --steps) look.scale = look.scale.Larger();
-  for (; steps < 0; ++steps) look.scale = look.scale.Smaller();
-  SetLook(look, stays);
-}
-
-void TMapWindow::ZoomToFit() {
-  const QSize room = RoomWithoutBars();
-  const MapScale scale =
-      MapScale::Fitting(list_->GetWidth(), list_->GetHeight(), room.width(), room.height());
-  SetLook({look_.view, scale}, {});
 }
 
 Result<void> TMapWindow::Save(const QString& path) {
@@ -341,76 +287,6 @@ void TMapWindow::StateMayHaveChanged() {
   knownUndo_ = list_->UndoKind();
   knownRedo_ = list_->RedoKind();
   if (changed) Q_EMIT StateChanged();
-}
-
-MapPicture& TMapWindow::Painting() {
-  if (!labels_ || !labels_->Fits(*this)) {
-    picture_.reset();
-    labels_ = std::make_unique<LevelLabelFont>(*this);
-  }
-  if (!picture_) picture_ = std::make_unique<MapPicture>(*list_, *labels_);
-  const QRect view = View();
-  picture_->SetView(
-      {view.left(), view.top(), view.left() + view.width(), view.top() + view.height()}, look_);
-  return *picture_;
-}
-
-QRect TMapWindow::InClient(const PixelRect& area) const {
-  const QRect view = View();
-  const auto within = [](std::int64_t place, int first, int side) {
-    return static_cast<int>(std::clamp<std::int64_t>(place - first, 0, side));
-  };
-  const QPoint corner(within(area.left, view.left(), view.width()),
-                      within(area.top, view.top(), view.height()));
-  const QPoint end(within(area.right, view.left(), view.width()),
-                   within(area.bottom, view.top(), view.height()));
-  return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
-}
-
-QPoint TMapWindow::TrackingPoint(const QPoint& client) const {
-  const QPoint shown = client + ScrollPosition();
-  const auto place = [this](int pixel) { return static_cast<int>(look_.scale.MapPixel(pixel)); };
-  return {place(shown.x()), place(shown.y())};
-}
-
-void TMapWindow::Paint(QPainter& painter, const QRect& exposed) {
-  painter.fillRect(exposed, Ground());
-  const QRect seen = exposed & QRect(QPoint(), ClientSize());
-  if (seen.isEmpty()) return;
-  const QRect area = seen.translated(ScrollPosition());
-  QImage shown(area.size(), QImage::Format_ARGB32_Premultiplied);
-  if (shown.isNull()) return;
-  Painting().Render(
-      {area.left(), area.top(), area.left() + area.width(), area.top() + area.height()}, rubber_,
-      {reinterpret_cast<std::uint32_t*>(shown.bits()),
-       static_cast<std::size_t>(shown.sizeInBytes()) / sizeof(std::uint32_t)});
-  painter.drawImage(seen.topLeft(), shown);
-  PaintHandles(painter, *list_, look_.scale, View());
-}
-
-void TMapWindow::Repaint(const PixelRect& area) {
-  const auto row = [this](std::int64_t y) {
-    return static_cast<int>(std::clamp<std::int64_t>(y, 0, list_->GridHeight()));
-  };
-  Q_EMIT DepthChanged(row(area.top), row(area.bottom));
-  changed_.push_back(area);
-  if (changed_.size() > 1) return;
-  QMetaObject::invokeMethod(this, &TMapWindow::RepaintChanged, Qt::QueuedConnection);
-}
-
-void TMapWindow::RepaintChanged() {
-  const std::vector<PixelRect> changed = std::exchange(changed_, {});
-  if (changed.size() > kMostAreas) {
-    InvalidateAll();
-    return;
-  }
-  for (const PixelRect& area : changed) Invalidate(InClient(Painting().WithLabels(area)));
-}
-
-void TMapWindow::InvalidateRubber() {
-  // Lines of a reduced map lie a pixel further.
-  const PixelRect area = look_.scale.Shown(rubber_.Area());
-  Invalidate(InClient({area.left - 1, area.top - 1, area.right + 1, area.bottom + 1}));
 }
 
 void TMapWindow::PressOnObjects(MouseKeys keys, QPoint point) {

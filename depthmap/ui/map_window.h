@@ -7,16 +7,12 @@
 #include <memory>
 #include <optional>
 #include <utility>
-#include <vector>
 
 #include "depthmap/depth_list.h"
 #include "depthmap/map_gesture.h"
-#include "depthmap/map_picture.h"
-#include "depthmap/rubber_band.h"
-#include "depthmap/ui/level_label_font.h"
 #include "depthmap/ui/map_tools.h"
+#include "depthmap/ui/map_view.h"
 #include "depthmap/ui/text_shapes.h"
-#include "documents/ui/mouse_wnd.h"
 #include "platform/result.h"
 
 namespace plenovia {
@@ -29,14 +25,12 @@ struct DepthMapInfo {
 
 enum class DepthMapState { kWhole, kDamaged };
 
-// Shows the map, at first one pixel of it a pixel of the display. Scrolls where the map is larger.
-class TMapWindow : public TMouseWnd, private DepthObjOwner {
+class TMapWindow : public TMapView {
   Q_OBJECT
 
  public:
   // A new map, not saved. `title` may be the path of a file that is then read.
   TMapWindow(QMdiArea* client, const QString& title, int width, int height, QWidget* frame);
-  ~TMapWindow() override;
 
   // The caption becomes the lower-cased file name of the path.
   void SetFileName(const QString& path);
@@ -45,10 +39,6 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   // The map's size, at most the greatest int, and its bytes as a picture with 8 bits a pixel.
   DepthMapInfo GetBitmapInfo() const;
   std::uint64_t GetImageSize() const { return list_->GetImageSize(); }
-  const TDepthList& Objects() const { return *list_; }
-  // The levels as they are at each moment. Who holds them keeps them when the window closes or
-  // reads another map.
-  std::shared_ptr<const LevelGrid> Levels() const { return list_; }
 
   // Replaces the map by that of a file and fits the window to it. kDamaged when the file breaks its
   // format but holds a map nevertheless. A file that is no depth map, or whose map has no size, is
@@ -78,9 +68,6 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   void SetTool(int id);
   // See ResizeMap().
   void SetMapSize(const QSize& size);
-  const MapLook& Look() const { return look_; }
-  // Gives the window's inside the size of the map, one to one, as far as there is room.
-  void ResizeToMap();
 
   bool HandlesCommand(int command) const override;
   bool CommandEnabled(int command) const override;
@@ -105,10 +92,7 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   void Told(const QString& text);
 
  protected:
-  void Paint(QPainter& painter, const QRect& exposed) override;
   void EvMDIActivate(bool active) override;
-  QPoint TrackingPoint(const QPoint& client) const override;
-  void ZoomAbout(const QPoint& client, int steps) override { Zoom(steps, client); }
   void OnLButtonDown(MouseKeys keys, QPoint point) override;
   void OnLButtonUp(MouseKeys keys, QPoint point) override;
   void OnLButtonDblClk(MouseKeys keys, QPoint point) override;
@@ -119,19 +103,7 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   bool KeyPressed(const QKeyEvent& event) override;
 
  private:
-  void Repaint(const PixelRect& area) override;
-  void RepaintChanged();
   void SetList(std::shared_ptr<TDepthList> list);
-  // The point `stays` of the client area shows the same place of the map afterwards.
-  void SetLook(const MapLook& look, const QPoint& stays);
-  void Zoom(int steps, const QPoint& stays);
-  void ZoomToFit();
-  void UpdateExtent();
-  MapPicture& Painting();
-  // What of the map, as it is shown, is in view.
-  QRect View() const { return {ScrollPosition(), ClientSize()}; }
-  QRect InClient(const PixelRect& area) const;
-  void InvalidateRubber();
   void StateMayHaveChanged();
 
   bool HasSelectedShape() const;
@@ -149,15 +121,8 @@ class TMapWindow : public TMouseWnd, private DepthObjOwner {
   void CmSetLevel();
   void CmText();
 
-  std::shared_ptr<TDepthList> list_;
-  std::unique_ptr<LevelLabelFont> labels_;
-  std::unique_ptr<MapPicture> picture_;
-  RubberBand rubber_;
-  MapLook look_;
   TextStyle textStyle_;
   std::unique_ptr<MapGesture> gesture_;  // of list_
-  std::vector<PixelRect> changed_;       // still to be repainted
-  QSize extent_;                         // of the map as it is shown
   int tool_ = kSelectTool;
   bool knownSaved_ = false;
   std::pair<std::int64_t, std::int64_t> knownSize_;
