@@ -16,7 +16,9 @@ ObjectList::ObjectList(QWidget* parent) : QTreeView(parent) {
   setEditTriggers(DoubleClicked | EditKeyPressed);
   setDragDropMode(InternalMove);
   setDropIndicatorShown(true);
-  header()->setStretchLastSection(true);
+  header()->setStretchLastSection(false);
+  header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  header()->setSectionResizeMode(ObjectListModel::kWhat, QHeaderView::Stretch);
 }
 
 void ObjectList::SetMap(TMapWindow* map) {
