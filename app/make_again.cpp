@@ -219,6 +219,10 @@ std::optional<NewRun> RunOf(CommandContext& context, const TSirdsWnd& stereogram
       return RunOfFigure(context, stereogram, recipe);
     case RecipeKind::kFormula:
       return RunOfFormula(context, recipe);
+    case RecipeKind::kText:
+      ShowFailure(&context.frame, {ErrorCode::kUnsupported,
+                                   "A stereogram of a text can only be made again with sirds."});
+      return std::nullopt;
     case RecipeKind::kPicture:
     case RecipeKind::kDepthMap:
       break;
