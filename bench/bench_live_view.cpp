@@ -107,7 +107,8 @@ void ChangeSettings(Watch& watch) {
 void DragShape(bench::DesktopProgram& program, Watch& watch) {
   const fs::path path =
       fs::temp_directory_path() / ("plenovia-live-" + std::to_string(getpid()) + ".rds");
-  if (!WriteDepthMap(bench::CrowdedMap(kSide, 1000), path)) std::exit(1);
+  TDepthList crowd = bench::CrowdedMap(kSide, 1000);
+  if (!WriteDepthMap(crowd, path)) std::exit(1);
   OpenByName(program.Frame().Context(), QString::fromStdString(path.string()));
   fs::remove(path);
   Document* map = program.Frame().GetActiveChild();
