@@ -1,6 +1,7 @@
 // The frame: start, placement, menus, what is available, leaving.
 
 #include <QAbstractScrollArea>
+#include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QScreen>
@@ -315,6 +316,8 @@ TEST_F(FrameTest, BoxesThatOnlyTell) {
   Run(kCmVideoInformation);
   answers.Add([](QDialog& dialog) {
     EXPECT_EQ(dialog.objectName(), QStringLiteral("about"));
+    const auto* libraries = dialog.findChild<QLabel*>(QStringLiteral("libraries"));
+    EXPECT_TRUE(libraries->text().contains(QString::fromLatin1(qVersion())));
     dialog.reject();
   });
   Run(kCmAbout);
