@@ -24,7 +24,10 @@ void ExpectAtRest(TPlenoviaWnd& frame) {
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
   EXPECT_FALSE(frame.IsBusy());
-  EXPECT_EQ(frame.cursor().hotSpot(), CursorById(kNormalCursor, 1).hotSpot()) << "busy cursor";
+  // Over the edge of a dock it is Qt's.
+  if (frame.cursor().shape() != Qt::SplitHCursor) {
+    EXPECT_EQ(frame.cursor().hotSpot(), CursorById(kNormalCursor, 1).hotSpot()) << "busy cursor";
+  }
   EXPECT_EQ(frame.findChild<QProgressBar*>(QStringLiteral("gauge"))->value(), 0);
   for (QWidget* window : QApplication::topLevelWidgets()) {
     EXPECT_EQ(qobject_cast<QDialog*>(window), nullptr) << window->windowTitle().toStdString();
