@@ -17,7 +17,8 @@ void ForEachRun(std::uint64_t bits, Visit visit) {
   while (bits != 0) {
     const int first = std::countr_zero(bits);
     const int length = std::countr_one(bits >> first);
-    visit(static_cast<std::size_t>(first), static_cast<std::size_t>(first + length));
+    visit(static_cast<std::size_t>(first),
+          static_cast<std::size_t>(first) + static_cast<std::size_t>(length));
     if (first + length == kBits) return;
     bits &= kAll << (first + length);
   }

@@ -177,6 +177,8 @@ QString TMapWindow::CommandSubject(int command) const {
 }
 
 void TMapWindow::RunCommand(int command) {
+  // The window may be closed while a dialog asks.
+  const std::shared_ptr<TDepthList> list = list_;
   const QPoint middle = QRect({}, ClientSize()).center();
   const QPointer<TMapWindow> alive(this);  // a dialog may outlive the window
   switch (command) {
@@ -197,7 +199,7 @@ void TMapWindow::RunCommand(int command) {
       CmText();
       break;
     case kCmMapSteps:
-      AskForSteps(window(), list_);
+      AskForSteps(window(), *list);
       break;
     case kCmSelectAll:
       list_->SelectAll(ObjectsAboveBackground(*list_));
@@ -209,7 +211,7 @@ void TMapWindow::RunCommand(int command) {
       list_->Redo();
       break;
     default:
-      if (IsShapeCommand(command)) RunShapeCommand(list_, command, window());
+      if (IsShapeCommand(command)) RunShapeCommand(*list, command, window());
       if (alive) SetTool(command);
   }
   if (alive) StateMayHaveChanged();
@@ -230,7 +232,8 @@ void TMapWindow::CmText() {
   const QPointer<TMapWindow> alive(this);
   const QPoint middle = TrackingPoint(QRect({}, ClientSize().boundedTo(extent_)).center());
   TextStyle style = textStyle_;
-  const bool put = AskForText(window(), list_, ToDepthPoint(middle), style);
+  const std::shared_ptr<TDepthList> list = list_;
+  const bool put = AskForText(window(), *list, ToDepthPoint(middle), style);
   if (!alive) return;
   textStyle_ = style;
   SetTool(put ? kMoveTool : tool_);

@@ -45,13 +45,12 @@ void CutShapes(TDepthList& list) {
   list.CmDelete();
 }
 
-// The window may be closed before the dialog is.
-void AskAndRotate(const std::shared_ptr<TDepthList>& list, QWidget* parent) {
+void AskAndRotate(TDepthList& list, QWidget* parent) {
   bool chosen = false;
   const double degrees =
       QInputDialog::getDouble(parent, Edits::tr("Rotate"), Edits::tr("Degrees to the right:"),
                               kUsualAngle, -360, 360, 2, &chosen);
-  if (chosen) RotateSelection(*list, degrees);
+  if (chosen) RotateSelection(list, degrees);
 }
 
 std::span<const std::uint8_t> BytesOf(const QByteArray& bytes) {
@@ -61,42 +60,42 @@ std::span<const std::uint8_t> BytesOf(const QByteArray& bytes) {
 
 }  // namespace
 
-void RunShapeCommand(const std::shared_ptr<TDepthList>& list, int command, QWidget* parent) {
+void RunShapeCommand(TDepthList& list, int command, QWidget* parent) {
   switch (command) {
     case kMoveObjectUp:
-      return list->CmMoveUp();
+      return list.CmMoveUp();
     case kMoveObjectDown:
-      return list->CmMoveDown();
+      return list.CmMoveDown();
     case kDeleteObject:
-      return list->CmDelete();
+      return list.CmDelete();
     case kShapesToTop:
-      return PutSelectionOnTop(*list);
+      return PutSelectionOnTop(list);
     case kShapesToBottom:
-      return PutSelectionAtBottom(*list);
+      return PutSelectionAtBottom(list);
     case kCmCopy:
-      CopyShapes(*list);
+      CopyShapes(list);
       return;
     case kCmCut:
-      return CutShapes(*list);
+      return CutShapes(list);
     case kCmDuplicate:
-      return DuplicateSelection(*list);
+      return DuplicateSelection(list);
     case kTurnLeft:
-      return TurnSelection(*list, Turn::kLeft);
+      return TurnSelection(list, Turn::kLeft);
     case kTurnRight:
-      return TurnSelection(*list, Turn::kRight);
+      return TurnSelection(list, Turn::kRight);
     case kRotate:
       return AskAndRotate(list, parent);
     case kMirrorLeftRight:
-      return MirrorSelection(*list, MirrorAxis::kLeftRight);
+      return MirrorSelection(list, MirrorAxis::kLeftRight);
     case kMirrorUpDown:
-      return MirrorSelection(*list, MirrorAxis::kUpDown);
+      return MirrorSelection(list, MirrorAxis::kUpDown);
     case kSpreadAcross:
-      return SpreadSelection(*list, Spread::kAcross);
+      return SpreadSelection(list, Spread::kAcross);
     case kSpreadDown:
-      return SpreadSelection(*list, Spread::kDown);
+      return SpreadSelection(list, Spread::kDown);
     default:
       if (command < kAlignLeft || command > kAlignBottom) return;
-      AlignSelection(*list, static_cast<Alignment>(command - kAlignLeft));
+      AlignSelection(list, static_cast<Alignment>(command - kAlignLeft));
   }
 }
 

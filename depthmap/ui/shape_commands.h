@@ -4,14 +4,14 @@
 #include <QByteArray>
 #include <QList>
 #include <QWidget>
-#include <memory>
 
 #include "depthmap/depth_list.h"
 
 namespace plenovia {
 
-// Carries out one of the commands that IsShapeCommand() knows. `parent` is the parent of dialogs.
-void RunShapeCommand(const std::shared_ptr<TDepthList>& list, int command, QWidget* parent);
+// Carries out one of the commands that IsShapeCommand() knows. `parent` is the parent of dialogs;
+// it may go while they are open. `list` outlives the call.
+void RunShapeCommand(TDepthList& list, int command, QWidget* parent);
 
 // In what formats shapes are put on the clipboard: as the bytes of a depth-map file, and as a text
 // that holds them.
