@@ -17,10 +17,10 @@ keys alt+g m
 sleep 2
 keys alt+g p
 wait_for "the pattern dialog" has_window '^Select Pattern$'
-keys Tab Tab Tab Tab space  # OK, Cancel, Next, Prev, Add
+keys Tab Tab Tab space  # Next, Prev, Add
 added=$XDG_DATA_HOME/plenovia/sirdspat/pat20.gif
 wait_for "the added pattern" test -s "$added"
-keys Tab Tab Return  # Delete, OK
+keys Tab Tab Tab Return  # Delete, Undo, OK
 wait_for "the pattern dialog to go" has_no_window '^Select Pattern$'
 keys alt+f x
 wait_for "the question of the unsaved stereogram" has_window '^Confirm$'
