@@ -24,8 +24,9 @@ void ExpectAtRest(TPlenoviaWnd& frame) {
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
   EXPECT_FALSE(frame.IsBusy());
-  // Over the edge of a dock it is Qt's.
-  if (frame.cursor().shape() != Qt::SplitHCursor) {
+  // Over the edges of docks it is Qt's.
+  const Qt::CursorShape shape = frame.cursor().shape();
+  if (shape != Qt::SplitHCursor && shape != Qt::SplitVCursor) {
     EXPECT_EQ(frame.cursor().hotSpot(), CursorById(kNormalCursor, 1).hotSpot()) << "busy cursor";
   }
   EXPECT_EQ(frame.findChild<QProgressBar*>(QStringLiteral("gauge"))->value(), 0);
