@@ -16,6 +16,8 @@
 #define PLENOVIA_INLINE __attribute__((always_inline))
 
 namespace plenovia {
+// Each source file that includes this has its own copy, and that is its purpose.
+// NOLINTBEGIN(misc-definitions-in-headers)
 namespace {
 
 // The highest path costs: that of a pixel and of a change before it.
@@ -75,6 +77,8 @@ class PairCosts {
 template <std::size_t kVectors>
 struct Vectors {
   std::size_t count;
+  // It stands for its number.
+  // NOLINTNEXTLINE(google-explicit-constructor)
   constexpr operator std::size_t() const { return kVectors == 0 ? count : kVectors; }
 };
 
@@ -386,4 +390,5 @@ constexpr RevealKernels kVectorRevealKernels{kByteLanes, AddCosts,  StepRow,
                                              JoinRow,    SearchRow, FindHalves};
 
 }  // namespace
+// NOLINTEND(misc-definitions-in-headers)
 }  // namespace plenovia

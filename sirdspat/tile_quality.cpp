@@ -146,7 +146,9 @@ class Squares {
     return sum / (side * side);
   }
   double At(int x, int y, int channel) const {
-    return means_[static_cast<std::size_t>(3 * (y * width_ + x) + channel)];
+    return means_[3 * (static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+                       static_cast<std::size_t>(x)) +
+                  static_cast<std::size_t>(channel)];
   }
 
   int width_;
