@@ -122,9 +122,7 @@ struct Feucht {
 
   template <class Columns>
   static void Shift(const Columns& columns, std::uint8_t* row, const ScanSetup& setup) {
-    const int middle = setup.width / 2;
-    columns.Descending(0, middle, LeftPass(row, setup.width));
-    columns.Ascending(middle, setup.width, RightPass(row, setup.width));
+    ShiftOutwards(columns, setup.width, LeftPass(row, setup.width), RightPass(row, setup.width));
   }
 };
 

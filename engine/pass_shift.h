@@ -70,6 +70,14 @@ struct WideColumns {
   }
 };
 
+// From the middle column to both ends, the left half first.
+template <class Columns, class LeftPass, class RightPass>
+void ShiftOutwards(const Columns& columns, int width, LeftPass left, RightPass right) {
+  const int middle = width / 2;
+  columns.Descending(0, middle, left);
+  columns.Ascending(middle, width, right);
+}
+
 // `Method` has the rule Separation(level, setup) and Shift(columns, pixels, setup), which lets its
 // passes work through the columns.
 template <class Method>

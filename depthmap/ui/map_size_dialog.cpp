@@ -5,25 +5,14 @@
 #include <QLabel>
 
 #include "platform/limits.h"
+#include "platform/ui/dialog_controls.h"
 
 namespace plenovia {
 
-namespace {
-
-QSpinBox* Side(const char* name, int value) {
-  auto* side = new QSpinBox;
-  side->setObjectName(QString::fromLatin1(name));
-  side->setRange(1, kMaxSide);
-  side->setValue(value);
-  return side;
-}
-
-}  // namespace
-
 MapSizeDialog::MapSizeDialog(QWidget* parent, const QSize& size)
     : QDialog(parent),
-      width_(Side("mapWidth", size.width())),
-      height_(Side("mapHeight", size.height())) {
+      width_(MakeSpinBox("mapWidth", 1, kMaxSide, size.width())),
+      height_(MakeSpinBox("mapHeight", 1, kMaxSide, size.height())) {
   setWindowTitle(tr("Map Size"));
   auto* form = new QFormLayout(this);
   form->addRow(tr("&Width:"), width_);

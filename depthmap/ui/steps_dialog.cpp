@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "depthmap/level_choice.h"
+#include "platform/ui/dialog_controls.h"
 
 namespace plenovia {
 
@@ -26,23 +27,15 @@ constexpr FormText kForms[] = {
     {StepForm::kRampUp, QT_TRANSLATE_NOOP("plenovia::StepsDialog", "Ramp upwards")},
 };
 
-QSpinBox* Number(const char* name, int least, int most, int value) {
-  auto* number = new QSpinBox;
-  number->setObjectName(QString::fromLatin1(name));
-  number->setRange(least, most);
-  number->setValue(value);
-  return number;
-}
-
 }  // namespace
 
 StepsDialog::StepsDialog(QWidget* parent, std::int32_t level)
     : QDialog(parent),
       form_(new QComboBox),
-      steps_(Number("steps", 2, kMostSteps, kUsualSteps)),
-      from_(Number("from", kLowestLevel, kHighestLevel, level)),
-      to_(Number("to", kLowestLevel, kHighestLevel,
-                 LevelThatStandsOut(std::clamp(level, kLowestLevel, kHighestLevel)))) {
+      steps_(MakeSpinBox("steps", 2, kMostSteps, kUsualSteps)),
+      from_(MakeSpinBox("from", kLowestLevel, kHighestLevel, level)),
+      to_(MakeSpinBox("to", kLowestLevel, kHighestLevel,
+                      LevelThatStandsOut(std::clamp(level, kLowestLevel, kHighestLevel)))) {
   setWindowTitle(tr("Make Steps"));
   form_->setObjectName(QStringLiteral("form"));
   for (const FormText& form : kForms) form_->addItem(tr(form.text));

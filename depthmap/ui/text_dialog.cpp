@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "depthmap/depth_list.h"
+#include "platform/ui/dialog_controls.h"
 #include "platform/ui/picture_painting.h"
 
 namespace plenovia {
@@ -34,22 +35,14 @@ QImage Picture(std::vector<std::unique_ptr<TDepthObj>> shapes, const QSize& size
   return picture;
 }
 
-QSpinBox* Number(const char* name, int least, int most, int value) {
-  auto* number = new QSpinBox;
-  number->setObjectName(QString::fromLatin1(name));
-  number->setRange(least, most);
-  number->setValue(value);
-  return number;
-}
-
 }  // namespace
 
 TextDialog::TextDialog(QWidget* parent, const TextStyle& style)
     : QDialog(parent),
       text_(new QLineEdit(style.text)),
       family_(new QFontComboBox),
-      size_(Number("textSize", kLeastTextSize, kGreatestTextSize, style.size)),
-      spacing_(Number("textSpacing", -kGreatestSpacing, kGreatestSpacing, style.spacing)),
+      size_(MakeSpinBox("textSize", kLeastTextSize, kGreatestTextSize, style.size)),
+      spacing_(MakeSpinBox("textSpacing", -kGreatestSpacing, kGreatestSpacing, style.spacing)),
       bold_(new QCheckBox(tr("&Bold"))),
       preview_(new QLabel),
       facts_(new QLabel) {

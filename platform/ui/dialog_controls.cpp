@@ -38,6 +38,14 @@ QLineEdit* MakeNumberEdit(int id, int digits) {
   return edit;
 }
 
+QSpinBox* MakeSpinBox(const char* name, int least, int most, int value) {
+  auto* box = new QSpinBox;
+  box->setObjectName(QString::fromLatin1(name));
+  box->setRange(least, most);
+  box->setValue(value);
+  return box;
+}
+
 QLabel* MakeLabel(const QString& text, QWidget* control) {
   auto* label = new QLabel(text);
   label->setTextFormat(Qt::PlainText);

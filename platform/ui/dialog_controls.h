@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QString>
 
 namespace plenovia {
@@ -22,6 +23,8 @@ QRadioButton* MakeRadio(int id, const QString& text);
 QLineEdit* MakeEdit(int id);
 // As wide as `digits` digits.
 QLineEdit* MakeNumberEdit(int id, int digits = 6);
+// A whole number of least..most, of this object name.
+QSpinBox* MakeSpinBox(const char* name, int least, int most, int value);
 // The text in front of a control.
 QLabel* MakeLabel(const QString& text, QWidget* control);
 
