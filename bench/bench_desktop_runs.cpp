@@ -17,11 +17,11 @@
 #include "app/command_table.h"
 #include "app/plenovia_wnd.h"
 #include "bench/desktop_program.h"
-#include "bench/quiet_monitor.h"
 #include "bench/smooth_depth.h"
 #include "bench/stopwatch.h"
 #include "bench/table.h"
 #include "engine/generation.h"
+#include "engine/quiet_monitor.h"
 
 namespace plenovia {
 namespace {
@@ -30,7 +30,7 @@ void CompareGeneration(bench::DesktopProgram& program,
                        const std::shared_ptr<const IndexedImage>& picture) {
   TSirdsWnd* window = program.Show(picture);
   const auto pattern = program.Frame().Patterns()->GetCurrentBitmap();
-  bench::QuietMonitor quiet;
+  QuietMonitor quiet;
   const auto alone = [&] {
     const auto made =
         MakeSirdFromBitmap(*picture, 1.0, {*pattern, program.Frame().Settings(), quiet});

@@ -9,12 +9,12 @@
 #include <vector>
 
 #include "bench/child_process.h"
-#include "bench/quiet_monitor.h"
 #include "bench/smooth_depth.h"
 #include "bench/stopwatch.h"
 #include "bench/table.h"
 #include "codec/bmp.h"
 #include "engine/generation.h"
+#include "engine/quiet_monitor.h"
 #include "platform/file_io.h"
 #include "platform/random.h"
 
@@ -33,7 +33,7 @@ double GenerationAlone(const IndexedImage& depth) {
   for (auto& pixel : tile->pixels()) pixel = random.Byte();
   TSirdsSettings settings;
   settings.zmax = 255;
-  bench::QuietMonitor monitor;
+  QuietMonitor monitor;
   return bench::Seconds([&] {
     if (!MakeSirdFromBitmap(depth, 1.0, {*tile, settings, monitor})) std::exit(1);
   });

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "bench/quiet_monitor.h"
 #include "bench/stopwatch.h"
 #include "bench/table.h"
 #include "engine/prepared_shift.h"
+#include "engine/quiet_monitor.h"
 #include "engine/reveal.h"
 #include "engine/scan_method.h"
 #include "platform/random.h"
@@ -49,7 +49,7 @@ IndexedImage Stereogram(const Palette& palette) {
 void Measure(const std::string& name, const Palette& palette, double copy) {
   const IndexedImage picture = Stereogram(palette);
   const RevealOptions options{.smallest = kSmallest, .largest = kLargest};
-  bench::QuietMonitor monitor;
+  QuietMonitor monitor;
   const double seconds = bench::Seconds(
       [&] {
         const auto revealed = Reveal(picture, options, monitor);

@@ -1,27 +1,22 @@
-// Formulas: whatever is taken has levels or no value anywhere, the same for any number of threads.
+// Formulas: what is taken has levels or no value anywhere, the same for any number of threads.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
 
+#include "engine/quiet_monitor.h"
 #include "sources/formula.h"
 
 namespace plenovia {
 namespace {
-
-class NoMonitor : public RunMonitor {
- public:
-  void OnProgress(ProgressPhase, const ProgressInfo&) override {}
-  bool StopRequested() override { return false; }
-};
 
 void Require(bool condition) {
   if (!condition) std::abort();
 }
 
 void Try(const Formula& formula) {
-  NoMonitor monitor;
+  QuietMonitor monitor;
   const auto checked = CheckFormula(formula);
   const auto image = DrawFormula(formula, 24, 16, 1, monitor);
   if (!checked) Require(!image && !checked.error().message.empty());

@@ -9,17 +9,12 @@
 #include "documents/ui/notice_bar.h"
 #include "engine/depth_source.h"
 #include "engine/fit_depth_range.h"
+#include "engine/quiet_monitor.h"
 #include "engine/tests/stereogram_truth.h"
 #include "testing/picture_compare.h"
 
 namespace plenovia {
 namespace {
-
-class Quiet final : public RunMonitor {
- public:
-  void OnProgress(ProgressPhase, const ProgressInfo&) override {}
-  bool StopRequested() override { return false; }
-};
 
 std::shared_ptr<const IndexedImage> Ramp() {
   IndexedImage ramp = IndexedImage::Create(512, 60, Palette::Grays(256)).value();
@@ -58,7 +53,7 @@ class FittedRanges : public ProgramTest {
     Settle();
   }
   IndexedImage AsSet() {
-    Quiet quiet;
+    QuietMonitor quiet;
     return MakeSirdFromBitmap(*ramp, 1.0,
                               {*Frame().Patterns()->GetCurrentBitmap(), Frame().Settings(), quiet})
         .value();
@@ -82,7 +77,7 @@ TEST_F(FittedRanges, ShowAllLevelsOfAGrayPicture) {
   const int start = method.StartColumn(rule.settings.gapValue);
   const LevelPicture truth(method.RunWidth(ramp->width(), rule.settings.gapValue), ramp->height(),
                            [&](int x, int) { return x < start || x >= 512 ? 0 : (x - start) / 2; });
-  Quiet quiet;
+  QuietMonitor quiet;
   const auto found = Reveal(*made->Picture(), {.anchor = method.anchor}, quiet).value();
   const RevealScore score = ScoreReveal(found, truth, rule);
   EXPECT_GT(score.counted, 512 * 60 / 4);

@@ -15,6 +15,7 @@
 #include "app/tests/program.h"
 #include "depthmap/ui/tests/map_hand.h"
 #include "engine/depth_source.h"
+#include "engine/quiet_monitor.h"
 #include "engine/separation.h"
 #include "engine/tests/stereogram_truth.h"
 #include "platform/ui/text.h"
@@ -25,12 +26,6 @@ namespace {
 namespace fs = std::filesystem;
 
 using Picture = std::shared_ptr<const IndexedImage>;
-
-class NoMonitor final : public RunMonitor {
- public:
-  void OnProgress(ProgressPhase, const ProgressInfo&) override {}
-  bool StopRequested() override { return false; }
-};
 
 class Scene : public ProgramTest, protected MapHand {
  protected:
@@ -113,7 +108,7 @@ TEST_P(SceneByMethod, LevelsAreFoundInTheStereogram) {
   const int start = method.StartColumn(rule.settings.gapValue);
   const int width = kSide + 2 * start;
   const LevelPicture levels(width, kSide, [&](int x, int y) { return drawn(x - start, y); });
-  NoMonitor monitor;
+  QuietMonitor monitor;
   const auto found = Reveal(*picture, {.anchor = method.anchor}, monitor);
   ASSERT_TRUE(found);
   const RevealScore score = ScoreReveal(*found, levels, rule);

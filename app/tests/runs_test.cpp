@@ -13,6 +13,7 @@
 #include "app/tests/program.h"
 #include "codec/graph_io.h"
 #include "engine/generation.h"
+#include "engine/quiet_monitor.h"
 #include "figures/sirdmath.h"
 #include "platform/ui/private_message.h"
 #include "platform/ui/text.h"
@@ -38,12 +39,6 @@ class MessageLog : public QObject {
                     std::to_string(percent));
     return false;
   }
-};
-
-class Quiet final : public RunMonitor {
- public:
-  void OnProgress(ProgressPhase, const ProgressInfo&) override {}
-  bool StopRequested() override { return false; }
 };
 
 class Runs : public ProgramTest {
@@ -82,7 +77,7 @@ TEST_F(Runs, MakesWhatTheEngineMakesAndTellsTheFrame) {
   EXPECT_EQ(made->GetTitle(), QStringLiteral("picture{sird}"));
   EXPECT_TRUE(made->IsStereogram());
   EXPECT_FALSE(made->IsSaved());
-  Quiet quiet;
+  QuietMonitor quiet;
   const auto pattern = Frame().Patterns()->GetCurrentBitmap();
   const auto direct = MakeSirdFromBitmap(*picture, 1.0, {*pattern, Frame().Settings(), quiet});
   EXPECT_TRUE(SamePixels(*made->Picture(), *direct));
@@ -91,7 +86,7 @@ TEST_F(Runs, MakesWhatTheEngineMakesAndTellsTheFrame) {
 }
 
 TEST_F(Runs, EachFigureOfTheMenuIsThatOfTheEngineWithACaption) {
-  Quiet quiet;
+  QuietMonitor quiet;
   const auto pattern = Frame().Patterns()->GetCurrentBitmap();
   for (int command = kCmFirstFigure; command <= kCmLastFigure; ++command) {
     Run(command);

@@ -8,17 +8,11 @@
 #include <vector>
 
 #include "cli/tests/process.h"
-#include "engine/run_monitor.h"
+#include "engine/quiet_monitor.h"
 #include "platform/indexed_image.h"
 #include "testing/temp_folder.h"
 
 namespace plenovia {
-
-class SilentMonitor : public RunMonitor {
- public:
-  void OnProgress(ProgressPhase, const ProgressInfo&) override {}
-  bool StopRequested() override { return false; }
-};
 
 // A folder with a depth picture, a depth map and a pattern in it.
 class SirdsTest : public testing::Test {

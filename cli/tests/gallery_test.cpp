@@ -115,7 +115,7 @@ TEST_P(GalleryPicture, IsWhatItsCommandMakesAndHasItsDepth) {
   EXPECT_TRUE(SameColours(made, shown));
 
   const StereogramRule rule = GetParam().Rule();
-  SilentMonitor monitor;
+  QuietMonitor monitor;
   const RevealAnchor anchor = ScanMethodOf(rule.settings.scanMethod).anchor;
   const auto revealed = Reveal(shown, {.anchor = anchor}, monitor);
   ASSERT_TRUE(revealed);

@@ -44,7 +44,7 @@ class Make : public SirdsTest, public testing::WithParamInterface<Parameters> {
     EXPECT_TRUE(SameColours(*expected, Read(out_)));
   }
 
-  SilentMonitor monitor_;
+  QuietMonitor monitor_;
 };
 
 TEST_P(Make, FromAPicture) {
@@ -90,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(Parameters, Make, testing::ValuesIn(kParameters),
                          [](const auto& test) { return std::string(test.param.name); });
 
 TEST_F(SirdsTest, WritesEachFormatByItsExtension) {
-  SilentMonitor monitor;
+  QuietMonitor monitor;
   const TSirdsSettings settings;
   const auto expected = MakeSirdFromBitmap(picture_, 1.0, {pattern_, settings, monitor});
   ASSERT_TRUE(expected.has_value());

@@ -9,6 +9,7 @@
 
 #include "engine/depth_source.h"
 #include "engine/generation.h"
+#include "engine/quiet_monitor.h"
 #include "engine/reveal.h"
 #include "engine/tests/stereogram_truth.h"
 #include "platform/random.h"
@@ -66,12 +67,6 @@ TEST(FitDepthRange, KeepsARangeThatShowsTheSourceAndFitsAnyOther) {
   }
 }
 
-class Quiet : public RunMonitor {
- public:
-  void OnProgress(ProgressPhase, const ProgressInfo&) override {}
-  bool StopRequested() override { return false; }
-};
-
 // A slope, a roof and wide steps of `count` grays, from index 0 on or spread over all brightnesses.
 IndexedImage GrayScene(int count, bool spread) {
   constexpr int kWidth = 560;
@@ -109,7 +104,7 @@ TEST_P(FittedPictures, AreFoundAgain) {
       rule.settings.zmin = range.zmin;
       rule.settings.zmax = range.zmax;
 
-      Quiet monitor;
+      QuietMonitor monitor;
       const auto made = MakeSirdFromBitmap(picture, 1.0, {pattern, rule.settings, monitor}).value();
       const ScanMethod& method = ScanMethodOf(GetParam());
       const auto found = Reveal(made, {.anchor = method.anchor}, monitor).value();

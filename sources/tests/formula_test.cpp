@@ -10,13 +10,13 @@
 #include <utility>
 #include <vector>
 
-#include "sources/tests/no_monitor.h"
+#include "engine/quiet_monitor.h"
 
 namespace plenovia {
 namespace {
 
 Result<FineImage> Draw(const std::string& text, int width, int height, int threads = 1) {
-  NoMonitor monitor;
+  QuietMonitor monitor;
   return DrawFormula({text}, width, height, threads, monitor);
 }
 
@@ -63,7 +63,7 @@ TEST(Formula, WithoutAValueIsFarAndInfiniteIsTheNearestValue) {
 
 TEST(Formula, TheExamplesWorkAndDiffer) {
   EXPECT_EQ(FormulaExamples().size(), 12U);
-  NoMonitor monitor;
+  QuietMonitor monitor;
   std::vector<FineImage> seen;
   for (const FormulaExample& example : FormulaExamples()) {
     auto image = DrawFormula(example.formula, 96, 64, 1, monitor);
@@ -114,7 +114,7 @@ TEST(Formula, MistakesAreToldInASentence) {
     EXPECT_EQ(image.error().message.back(), '.') << shown;
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1)) << shown;
   }
-  NoMonitor monitor;
+  QuietMonitor monitor;
   for (const double reach : {0.0, -1.0, 1e9, std::nan("")}) {
     EXPECT_FALSE(DrawFormula({"x", reach}, 40, 30, 1, monitor).has_value());
   }

@@ -9,6 +9,7 @@
 #include <chrono>
 
 #include "engine/depth_source.h"
+#include "engine/quiet_monitor.h"
 #include "platform/ui/dialog_controls.h"
 #include "platform/ui/text.h"
 
@@ -19,14 +20,8 @@ namespace {
 constexpr QSize kPreview(280, 200);
 constexpr std::chrono::milliseconds kTypingPause{150};
 
-class NoMonitor : public RunMonitor {
- public:
-  void OnProgress(ProgressPhase, const ProgressInfo&) override {}
-  bool StopRequested() override { return false; }
-};
-
 Result<FineImage> DrawSmall(const Formula& formula) {
-  NoMonitor monitor;
+  QuietMonitor monitor;
   return DrawFormula(formula, kPreview.width(), kPreview.height(), 1, monitor);
 }
 

@@ -5,16 +5,10 @@
 #include <string>
 
 #include "codec/gif_intf.h"
-#include "engine/run_monitor.h"
+#include "engine/quiet_monitor.h"
 #include "platform/indexed_image.h"
 
 namespace plenovia {
-
-class NoMonitor : public RunMonitor {
- public:
-  void OnProgress(ProgressPhase, const ProgressInfo&) override {}
-  bool StopRequested() override { return false; }
-};
 
 // The tile of this number that ships with the program.
 inline IndexedImage Pattern(int number) {

@@ -59,7 +59,7 @@ struct Found {
 };
 
 Found FindAgain(const FineImage& levels, const IndexedImage& pattern, int threads = 1) {
-  NoMonitor monitor;
+  QuietMonitor monitor;
   const TSirdsSettings settings{
       .zmax = kZmax, .gapValue = kGap, .marker = 0, .scanMethod = kSmooth};
   Found found;
@@ -117,7 +117,7 @@ TEST(FineLevels, AThousandDepthsStayDifferent) {
   for (int y = 0; y < kDepths; ++y) {
     std::ranges::fill(levels.Row(y), static_cast<std::uint16_t>(y * FineImage::kHighest / kDepths));
   }
-  NoMonitor monitor;
+  QuietMonitor monitor;
   const TSirdsSettings settings{
       .zmax = kZmax, .gapValue = kGap, .marker = 0, .scanMethod = kSmooth};
   const IndexedImage made = MakeSirdFromFineImage(levels, {tile, settings, monitor, 2}).value();

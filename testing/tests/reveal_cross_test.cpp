@@ -48,7 +48,7 @@ class RevealShipped : public testing::TestWithParam<ScanMethodNumber> {
     FigureRun run;
     run.level = _GetFigureLevel;
     run.code = code;
-    NoMonitor monitor;
+    QuietMonitor monitor;
     const IndexedImage picture = MakeSirdFromFigure(run, {pattern, settings, monitor}).value();
     const auto separation = [&](int level) {
       return static_cast<int>(SeparationFromLevel(level, settings, rule_.kind, settings.w));
@@ -82,7 +82,7 @@ TEST_P(RevealShipped, FindsAFigureInEveryPattern) {
 TEST_P(RevealShipped, FindsEverySampleInTheFittedRange) {
   const std::filesystem::path samples = SHIPPED_SAMPLES;
   const IndexedImage pattern = Pattern(0);
-  NoMonitor monitor;
+  QuietMonitor monitor;
   TSirdsSettings& settings = rule_.settings;
   const TSirdsSettings defaults = settings;
   const ScanMethod& method = ScanMethodOf(settings.scanMethod);

@@ -52,7 +52,7 @@ IndexedImage Stereogram(const Surface& surface, const IndexedImage& pattern, std
     }
   }
   TSirdsSettings settings{.zmax = kZmax, .gapValue = kGap, .marker = 0, .scanMethod = method};
-  NoMonitor monitor;
+  QuietMonitor monitor;
   return MakeSirdFromBitmap(source, 1.0, {pattern, settings, monitor, threads}).value();
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "engine/generation.h"
+#include "engine/quiet_monitor.h"
 #include "viewing/depth_picture.h"
 #include "viewing/found_again.h"
 #include "viewing/relief.h"
@@ -13,12 +14,6 @@
 
 namespace plenovia {
 namespace {
-
-class Quiet final : public RunMonitor {
- public:
-  void OnProgress(ProgressPhase, const ProgressInfo&) override {}
-  bool StopRequested() override { return false; }
-};
 
 std::uint32_t At(const RgbPicture& picture, int x, int y) {
   return picture.Row(y)[static_cast<std::size_t>(x)];
@@ -91,7 +86,7 @@ FoundAgain Found(const LevelField& scene, const LevelField& claimed, std::int32_
   TSirdsSettings settings;
   settings.scanMethod = method;
   settings.marker = 0;
-  Quiet quiet;
+  QuietMonitor quiet;
   const ScanMethod& scan = ScanMethodOf(method);
   const IndexedImage tile = NoiseTile(128, 64);
   const IndexedImage made = MakeSirdFromDepthMap(scene, RunInput{tile, settings, quiet}).value();

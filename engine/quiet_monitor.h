@@ -1,9 +1,9 @@
-// A run that nobody watches.
+// For a run that nobody watches or stops.
 #pragma once
 
 #include "engine/run_monitor.h"
 
-namespace plenovia::bench {
+namespace plenovia {
 
 class QuietMonitor final : public RunMonitor {
  public:
@@ -11,4 +11,4 @@ class QuietMonitor final : public RunMonitor {
   bool StopRequested() override { return false; }
 };
 
-}  // namespace plenovia::bench
+}  // namespace plenovia
